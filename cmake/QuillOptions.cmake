@@ -1,0 +1,11 @@
+# One interface target carries what every target of the project is compiled with.
+add_library(quill_options INTERFACE)
+target_compile_options(quill_options INTERFACE -Wall -Wextra -Wshadow -Wconversion)
+if(QUILL_WERROR)
+  target_compile_options(quill_options INTERFACE -Werror)
+endif()
+if(QUILL_SANITIZE)
+  target_compile_options(quill_options INTERFACE
+    -fsanitize=address,undefined -fno-sanitize-recover=undefined -fno-omit-frame-pointer)
+  target_link_options(quill_options INTERFACE -fsanitize=address,undefined)
+endif()
