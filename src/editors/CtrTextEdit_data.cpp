@@ -1,0 +1,271 @@
+// How the text editor takes values from documents and gives its own back.
+
+#include "editors/CtrTextEdit.h"
+#include "framework/documents.h"
+#include "framework/modTools.h"
+#include "framework/values.h"
+#include "platform/utf8.h"
+
+namespace quill {
+
+using namespace editorColors;
+
+namespace {
+
+constexpr const char* kNoUnit = "noUnit";
+constexpr const char* kCrLf   = "\r\n";
+
+} // namespace
+
+void CtrTextEdit::readLimits(const Steps& step, const IXMLDOMNode& parameter)
+{
+    const bool isInteger = values::isIntegerType(mValueType);
+    const auto take      = [&](const char* attribute, double none, double& limit) {
+        const std::string text = read(step, parameter, attribute);
+        if (text.empty()) {
+            limit = none;
+        } else {
+            step([&] { limit = modTools::ParseNumber(text); });
+        }
+    };
+    take("minVal", isInteger ? -kIntegerSentinel : kLowerSentinel, mLimitMin);
+    take("maxVal", isInteger ? kIntegerSentinel : kUpperSentinel, mLimitMax);
+}
+
+void CtrTextEdit::readFormat(const Steps& step, const IXMLDOMNode& parameter)
+{
+    const std::string decimals = read(step, parameter, "decimals");
+    if (decimals.empty()) {
+        mNumberFormat = "######0.000";
+        mDecimalCount = 3;
+        return;
+    }
+    step([&] { mDecimalCount = values::toInt16(modTools::ParseNumber(decimals)); });
+    mNumberFormat = "######0";
+    if (mDecimalCount >= 1) {
+        mNumberFormat += "." + std::string(static_cast<std::size_t>(mDecimalCount), '0');
+    }
+}
+
+bool CtrTextEdit::setOfflineData(const IXMLDOMNode& parameter)
+{
+    if (!parameter) {
+        return false;
+    }
+    const Steps step = steps("setOfflineData");
+    bindTo(parameter);
+    mValueType        = read(step, parameter, "type");
+    std::string value = read(step, parameter, "value");
+
+    if (values::isNumericType(mValueType)) {
+        txtBox.Alignment = static_cast<std::int32_t>(platform::TextAlignment::right);
+        readLimits(step, parameter);
+        if (values::isFloatType(mValueType)) {
+            readFormat(step, parameter);
+            value = values::replaceAll(value, ".", mDecimalSeparator);
+        }
+        const std::string unit = read(step, parameter, "unit");
+        mMessageUnit           = unit.empty() ? kNoUnit : unit;
+        showLimits();
+        value = toDisplayUnit(step, parameter, value);
+    } else {
+        const std::string longest = read(step, parameter, "maxVal");
+        if (values::isNumeric(longest)) {
+            step([&] { txtBox.MaxLength = values::toInt32(values::parseLocal(longest)); });
+        }
+    }
+
+    // Read before the text is written, which turns the mark to "not in step".
+    const std::string synchronised = read(step, parameter, "synchronised");
+    setText(value);
+    if (synchronised == "1") {
+        setModified(false);
+        takeAsSynced();
+        forwardChanges();
+    } else if (synchronised == "2") {
+        handleError("communicationError");
+    } else {
+        if (txtBox.Text.get().empty()) {
+            setModified(false);
+        } else {
+            setModified(true);
+            mOriginalText.clear();
+        }
+        forwardChanges();
+    }
+
+    mAccessText      = read(step, parameter, "access");
+    txtBox.BackColor = kWhite;
+    txtBox.Locked    = false;
+    if (!isWritable(mAccessText)) {
+        txtBox.BackColor = kGrey;
+        txtBox.Locked    = true;
+        mSilent          = true;
+    }
+    step([&] { Change.raise(txtBox.Text); });
+    return true;
+}
+
+std::string CtrTextEdit::inVisibleUnit(const Steps& step, const IXMLDOMNode& item,
+                                       const std::string& text, bool isLocal)
+{
+    std::string unit = read(step, item, "unit");
+    if (unit != mMessageUnit) {
+        const std::string mismatch = Tag.get() + " viestin yksikkö " + unit + " <> " +
+                                     mMessageUnit + " Datafilessä!" + kCrLf;
+        if (unit != kNoUnit && !unit.empty()) {
+            step([&] { host().WriteLog(kLogUnit, mismatch + "Käytän VIESTIN yksikköä " + unit); });
+        } else {
+            if (!isLocal) {
+                step([&] {
+                    host().WriteLog(kLogUnit,
+                                    mismatch + "Käytän Datafilen yksikköä " + mMessageUnit);
+                });
+            }
+            unit = mMessageUnit;
+        }
+    }
+    const std::string visible = visibleUnit();
+    if (unit == visible) {
+        return text;
+    }
+    double value = 0;
+    if (step([&] { value = modTools::ParseNumber(text); })) {
+        if (const auto converted = convert(step, value, unit, visible)) {
+            return values::numberText(*converted);
+        }
+        if (UnitConverter* const units = converter(step)) {
+            const auto second = step.value(std::optional<std::string>{},
+                                           [&] { return units->GetDisplayUnit(Tag); });
+            const auto converted =
+                second ? convert(step, value, unit, *second) : std::optional<float>{};
+            if (converted && *second != visible) {
+                setVisibleUnit(*second);
+                return values::numberText(*converted);
+            }
+        }
+    }
+    setVisibleUnit(unit);
+    return text;
+}
+
+bool CtrTextEdit::setOnlineData(const IXMLDOMNode& item)
+{
+    if (!item) {
+        return false;
+    }
+    const Steps step = steps("setOnlineData");
+    if (values::isNumericType(mValueType) && values::contains(mAccessText, "readWrite")) {
+        mAllowEmpty = false;
+    }
+    std::string text = step.text([&] { return documents::itemValue(item, mValueType); });
+    if (mMessageUnit != kNoUnit && text != "NaN" && text != "-Inf") {
+        text = inVisibleUnit(step, item, text, false);
+    }
+    setText(text);
+    setModified(false);
+    forwardChanges();
+    takeAsSynced();
+    step([&] { Change.raise(txtBox.Text); });
+    return true;
+}
+
+bool CtrTextEdit::setLocalData(const IXMLDOMNode& item)
+{
+    if (!item) {
+        return false;
+    }
+    const Steps step = steps("setLocalData");
+    std::string text = step.text([&] { return documents::itemValue(item, mValueType); });
+    if (mMessageUnit != kNoUnit && text != "NaN" && text != "-Inf") {
+        text = inVisibleUnit(step, item, text, true);
+    }
+    EditText(text);
+    setModified(true);
+    forwardChanges();
+    step([&] { Change.raise(txtBox.Text); });
+    return true;
+}
+
+bool CtrTextEdit::setImportData(const IXMLDOMNode& parameter)
+{
+    if (!parameter) {
+        return false;
+    }
+    const Steps step  = steps("setImportData");
+    std::string value = read(step, parameter, "value");
+    if (values::isNumericType(mValueType)) {
+        value                     = values::replaceAll(value, ".", mDecimalSeparator);
+        const std::string visible = visibleUnit();
+        if (visible != kNoUnit && hasConvertibleUnit() && converter(step) != nullptr) {
+            if (mMessageUnit != visible && values::isNumeric(value)) {
+                const auto converted =
+                    convert(step, values::parseLocal(value), mMessageUnit, visible);
+                if (converted) {
+                    value = values::numberText(*converted);
+                } else {
+                    // The number stays in the parameter's unit, so that unit must stand beside it.
+                    setVisibleUnit(mMessageUnit);
+                }
+            }
+        } else {
+            setVisibleUnit(mMessageUnit);
+        }
+        step([&] { value = formatted(value); });
+    }
+    txtBox.Text = value;
+    setModified(true);
+    forwardChanges();
+    step([&] { Change.raise(txtBox.Text); });
+    return true;
+}
+
+void CtrTextEdit::handleError(const std::string& code)
+{
+    if (code == "missingItems" || code == "commandIsNotImplemented") {
+        setModified(true);
+        setCorrect(false);
+        forwardChanges();
+    } else if (code == "communicationError") {
+        takeAsSyncError();
+    } else if (isRefusal(code)) {
+        takeAsRefused();
+    }
+}
+
+void CtrTextEdit::ViewGetChanges(std::int16_t scope)
+{
+    if (!Correct() || mSilent || !isAskedFor(scope)) {
+        return;
+    }
+    const Steps step = steps("mMessenger_ViewGetChanges");
+    step([&] {
+        host().BookChange(*this, Tag, mLabelText, mOriginalText, txtBox.Text, {}, mValueType,
+                          mContextTag);
+    });
+}
+
+IXMLDOMDocument CtrTextEdit::GetXmlItem(bool force)
+{
+    if (!force && (txtBox.Text.get().empty() || !Correct())) {
+        return {};
+    }
+    return getXmlItem();
+}
+
+IXMLDOMDocument CtrTextEdit::getXmlItem()
+{
+    const Steps step = steps("getXmlItem");
+    mItemDocument    = IXMLDOMDocument::create();
+    if (!Tag.get().empty() && !mValueType.empty()) {
+        step([&] {
+            // The formatting comes first: it may change the unit.
+            const std::string value = FormatForCommunication(txtBox.Text);
+            mItemDocument = documents::itemDocument(platform::utf8::substring(Tag.get(), 4),
+                                                    mMessageUnit, mValueType, value);
+        });
+    }
+    return mItemDocument;
+}
+
+} // namespace quill
