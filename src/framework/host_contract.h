@@ -5,6 +5,7 @@
 #include "platform/xml_dom.h"
 
 #include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
 
@@ -116,6 +117,13 @@ public:
     /// child that carries the value. Without `force` nothing while the editor has no text or its
     /// value is not correct.
     virtual IXMLDOMDocument GetXmlItem(bool force) = 0;
+
+    /// Expires with the editor. Whoever keeps an editor beyond a call asks this first: a page may
+    /// go while its changes are still listed.
+    [[nodiscard]] std::weak_ptr<const void> lifetime() const { return mLifetime; }
+
+private:
+    std::shared_ptr<const void> mLifetime = std::make_shared<char>();
 };
 
 /// Implemented by every control that needs the host.

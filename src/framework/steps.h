@@ -86,4 +86,13 @@ private:
     return Steps{Steps::Outlet{}};
 }
 
+/// The Messenger itself; failure 91 while there is none. For use inside a step.
+[[nodiscard]] inline Messenger& existing(Messenger* messenger)
+{
+    if (messenger == nullptr) {
+        throw platform::failure(platform::kObjectNotSet);
+    }
+    return *messenger;
+}
+
 } // namespace quill

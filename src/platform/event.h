@@ -80,16 +80,23 @@ public:
         }
         mList->prune();
         auto slot = std::make_shared<Slot>(mList, std::forward<Handler>(handler));
-        mList->slots.push_back(slot);
+        mList->handlers.push_back(slot);
         return Subscription{std::move(slot)};
     }
 
     void raise(Args... args) const
     {
-        if (!mList || mList->slots.empty()) {
+        if (!mList || mList->handlers.empty()) {
             return;
         }
-        const auto snapshot = mList->slots;
+        if (mList->handlers.size() == 1) { // the usual case, without a list of its own
+            const auto only = mList->handlers.front();
+            if (only->live) {
+                only->call(args...);
+            }
+            return;
+        }
+        const auto snapshot = mList->handlers;
         for (const auto& slot : snapshot) {
             if (slot->live) {
                 slot->call(args...);
@@ -98,7 +105,7 @@ public:
     }
 
     /// Whether anybody listens.
-    [[nodiscard]] bool empty() const { return !mList || mList->slots.size() == mList->dead; }
+    [[nodiscard]] bool empty() const { return !mList || mList->handlers.size() == mList->dead; }
 
 private:
     struct Slot : detail::SlotBase {
@@ -111,16 +118,16 @@ private:
     };
 
     struct List : detail::SlotList {
-        std::vector<std::shared_ptr<Slot>> slots;
+        std::vector<std::shared_ptr<Slot>> handlers;
 
         /// Sweeps when at least half of the slots are dead, so that many subscriptions that come
         /// and go cost a constant time each.
         void prune()
         {
-            if (dead * 2 < slots.size() || dead == 0) {
+            if (dead * 2 < handlers.size() || dead == 0) {
                 return;
             }
-            std::erase_if(slots, [](const auto& slot) { return !slot->live; });
+            std::erase_if(handlers, [](const auto& slot) { return !slot->live; });
             dead = 0;
         }
     };

@@ -31,14 +31,20 @@ void propertyChanged(Widget& owner, const void* property);
 template <class T>
 class Property {
 public:
-    explicit Property(Widget& owner, T initial = T{}) : mOwner(owner), mValue(std::move(initial)) {}
+    /// The property must be a member of its owner.
+    explicit Property(Widget& owner, T initial = T{})
+        : mPlace(static_cast<std::int32_t>(reinterpret_cast<char*>(this) -
+                                           reinterpret_cast<char*>(&owner))),
+          mValue(std::move(initial))
+    {
+    }
     Property(const Property&) = delete;
     Property& operator=(const Property& other) { return *this = other.mValue; }
     Property& operator=(const T& value)
     {
         if (!(mValue == value)) {
             mValue = value;
-            detail::propertyChanged(mOwner, this);
+            detail::propertyChanged(owner(), this);
         }
         return *this;
     }
@@ -49,8 +55,15 @@ public:
     friend bool operator==(const Property& a, const T& b) { return a.mValue == b; }
 
 private:
-    Widget& mOwner;
-    T       mValue;
+    [[nodiscard]] Widget& owner()
+    {
+        return *reinterpret_cast<Widget*>(reinterpret_cast<char*>(this) - mPlace);
+    }
+
+    // A widget has a dozen properties and a page thousands of widgets: the place in the owner takes
+    // half of what a reference to it would.
+    std::int32_t mPlace;
+    T            mValue;
 };
 
 /// Is shown the properties of a widget one after the other, each with the name that the controls

@@ -57,14 +57,16 @@ public:
     [[nodiscard]] std::string get_namespaceURI() const;
 
     /// The first node in document order that the XPath expression selects from here, or nothing.
-    /// Prefixes are those of the document's "SelectionNamespaces". A malformed expression is a
-    /// failure 5.
+    /// Prefixes are those of the document's "SelectionNamespaces". A malformed expression, an
+    /// unknown prefix and an expression that selects no nodes but a value are a failure 5. In a
+    /// tree without a document around it, "/" and "//" mean that tree.
     [[nodiscard]] IXMLDOMNode     selectSingleNode(std::string_view expression) const;
     [[nodiscard]] IXMLDOMNodeList selectNodes(std::string_view expression) const;
 
     /// The text of the node and all below it, never trimmed.
     [[nodiscard]] std::string get_text() const;
-    /// Replaces all that is below the node by a text.
+    /// Replaces all that is below the node by a text. A text with characters that XML cannot hold
+    /// (control characters, bytes that are no UTF-8) is a failure 5, here and in `put_nodeValue`.
     void put_text(std::string_view text) const;
     /// Value of an attribute, a text or a comment; empty for other kinds.
     [[nodiscard]] std::string get_nodeValue() const;
@@ -146,7 +148,8 @@ public:
 
     /// The attribute of this name, or nothing.
     [[nodiscard]] IXMLDOMNode getNamedItem(std::string_view name) const;
-    /// Adds an attribute, in the place of one of the same name, and answers it.
+    /// Adds an attribute, in the place of one of the same name, and answers it. One that belongs to
+    /// another element is a failure 5.
     IXMLDOMNode setNamedItem(const IXMLDOMNode& attribute) const;
     /// Takes an attribute away and answers it, nothing if there was none.
     IXMLDOMNode        removeNamedItem(std::string_view name) const;
@@ -175,8 +178,10 @@ public:
 
     /// Reads a text in place of what the document holds. The text is UTF-8 whatever its declaration
     /// says. No network, no external entity, no document type declaration, at most 256 elements
-    /// deep and `kMaxDocumentBytes` long; white space between elements is dropped. A text that is
-    /// refused is a failure 5 that tells why and where, and the document is as before.
+    /// deep and `kMaxDocumentBytes` long, at most 1000 attributes to an element and 256 namespaces
+    /// in force at one place; white space between elements is dropped. A text that is refused is a
+    /// failure 5 that tells why and where, and the document is as before. Nodes of the old content
+    /// stay valid while they are held.
     void loadXML(std::string_view text) const;
     /// The same for a file, which may be in any encoding that its declaration names. Failures 53
     /// and 75 for a file that is missing or cannot be read.
@@ -189,12 +194,13 @@ public:
     /// An element in no namespace. A name that is none is a failure 5.
     [[nodiscard]] IXMLDOMNode createElement(std::string_view name) const;
     [[nodiscard]] IXMLDOMNode createAttribute(std::string_view name) const;
-    /// An element, attribute, text or comment; `namespaceURI` may be empty.
+    /// An element, attribute, text, CDATA section or comment, the last three without a name.
+    /// `namespaceURI` may be empty; a prefix in the name needs one (else failure 5).
     [[nodiscard]] IXMLDOMNode createNode(NodeType type, std::string_view name,
                                          std::string_view namespaceURI) const;
 
-    /// Grows whenever elements come or go or an attribute `name` changes; the ground of every
-    /// cached look-up.
+    /// Grows whenever elements come or go, an attribute `name` or `clone` changes, or the prefixes
+    /// do; the ground of every cached look-up.
     [[nodiscard]] std::size_t structureVersion() const;
     /// A place where somebody may keep what he worked out of this document; dies with it. Nodes in
     /// there are kept as marks, not as handles.
@@ -206,7 +212,8 @@ public:
 /// Longest text that is read: 64 MB.
 constexpr std::size_t kMaxDocumentBytes = 64U * 1024U * 1024U;
 
-/// Walks without XPath, for the hot paths. `element` must be an element, else failure 91.
+/// Walks without XPath, for the hot paths. Failure 91 if `element` is no element; to go down, a
+/// document will do as well.
 /// The attribute of no namespace with this name, or nothing: what `./@name` selects.
 [[nodiscard]] IXMLDOMNode attributeNode(const IXMLDOMNode& element, std::string_view name);
 /// The first child element of this namespace and name, or nothing.

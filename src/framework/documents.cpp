@@ -1,0 +1,322 @@
+#include "framework/documents.h"
+
+#include "platform/failure.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <memory>
+#include <optional>
+#include <unordered_map>
+#include <vector>
+
+namespace quill::documents {
+
+using platform::attributeNode;
+using platform::NodeMark;
+using platform::NodeType;
+
+namespace {
+
+const platform::SelectionNamespaces kPrefixes{{"data", kDatafileSchema},
+                                              {"typeInfo", kTypeInfoSchema},
+                                              {"comm", kCommunicationSchema},
+                                              {"param", kParameterSchema},
+                                              {"fdt", kFDTSchema}};
+
+// --- The index --------------------------------------------------------------------------------
+
+/// Where elements stand that are looked up by their `name`: the path to them is `root` and `rest`,
+/// all of one namespace.
+struct Place {
+    std::size_t      slot; ///< the place's table in the index
+    std::string_view root;
+    std::string_view rest;
+};
+
+constexpr Place kParameters{0, "./data:dtm", "/data:persistentData/data:parameters/data:parameter"};
+constexpr Place kMappedParams{1, "./data:dtm", "/data:mappedParams/data:mappedParam"};
+constexpr Place kRequestGroups{2, "./data:dtm", "/data:requestGroups/data:requestGroup"};
+constexpr Place kListings{3, "./data:dtm",
+                          "/data:requestGroups/data:requestGroup/data:includedParam"};
+constexpr Place kItems{4, "comm:dtm", "/comm:communicationResponse/comm:item"};
+
+constexpr std::size_t kPlaces = 5;
+
+/// The named elements of one place. Those of one name form a chain in document order.
+class Table {
+public:
+    void reserve(std::size_t count)
+    {
+        mEntries.reserve(count);
+        mChains.reserve(count);
+    }
+    void add(std::string name, NodeMark node)
+    {
+        const auto [chain, fresh] =
+            mChains.try_emplace(std::move(name), Chain{mEntries.size(), mEntries.size()});
+        if (!fresh) {
+            mEntries[chain->second.last].next = mEntries.size();
+            chain->second.last                = mEntries.size();
+        }
+        mEntries.push_back({node, kEnd});
+    }
+    /// Visits the elements of a name in document order, as long as `visit` answers true.
+    template <class Visit>
+    void visit(const std::string& name, Visit&& visit) const
+    {
+        const auto chain = mChains.find(name);
+        if (chain == mChains.end()) {
+            return;
+        }
+        for (std::size_t at = chain->second.first; at != kEnd && visit(mEntries[at].node);) {
+            at = mEntries[at].next;
+        }
+    }
+
+private:
+    static constexpr std::size_t kEnd = std::numeric_limits<std::size_t>::max();
+    struct Entry {
+        NodeMark    node;
+        std::size_t next;
+    };
+    struct Chain {
+        std::size_t first, last;
+    };
+    std::vector<Entry>                     mEntries;
+    std::unordered_map<std::string, Chain> mChains;
+};
+
+/// What a document carries in its cache. Each table is made when it is first asked for.
+struct Index {
+    explicit Index(std::size_t structureVersion) : version(structureVersion) {}
+
+    std::size_t                               version;
+    std::array<std::optional<Table>, kPlaces> tables;
+};
+
+Table makeTable(const IXMLDOMDocument& document, const Place& place)
+{
+    // The root is selected by its expression, so that the document's own prefixes decide what the
+    // namespace is and a missing one fails as it does in the whole expression.
+    const IXMLDOMNodeList    roots = document.selectNodes(place.root);
+    std::vector<IXMLDOMNode> level(roots.begin(), roots.end());
+    std::string_view         rest = place.rest;
+    while (!rest.empty()) {
+        const auto             colon = rest.find(':');
+        const auto             end   = std::min(rest.find('/', colon), rest.size());
+        const std::string_view name  = rest.substr(colon + 1, end - colon - 1);
+        rest.remove_prefix(end);
+
+        std::vector<IXMLDOMNode> next;
+        for (const IXMLDOMNode& parent : level) {
+            auto children = platform::childElements(parent, parent.get_namespaceURI(), name);
+            std::move(children.begin(), children.end(), std::back_inserter(next));
+        }
+        level = std::move(next);
+    }
+
+    Table table;
+    table.reserve(level.size());
+    for (const IXMLDOMNode& element : level) {
+        if (const IXMLDOMNode name = attributeNode(element, "name")) {
+            table.add(name.get_text(), NodeMark{element});
+        }
+    }
+    return table;
+}
+
+const Table& tableOf(const IXMLDOMDocument& document, const Place& place)
+{
+    auto& cache = document.cache();
+    auto* index = static_cast<Index*>(cache.get());
+    if (index == nullptr || index->version != document.structureVersion()) {
+        const auto fresh = std::make_shared<Index>(document.structureVersion());
+        cache            = fresh;
+        index            = fresh.get();
+    }
+    auto& table = index->tables[place.slot];
+    if (!table) {
+        table = makeTable(document, place);
+    }
+    return *table;
+}
+
+/// Whether a name can stand between double quotes in an expression. One that cannot is left to the
+/// expression, which then fails or says something else.
+bool isQuotable(std::string_view name)
+{
+    return std::none_of(name.begin(), name.end(), [](char c) {
+        return c == '"' ||
+               (static_cast<unsigned char>(c) < ' ' && c != '\t' && c != '\n' && c != '\r');
+    });
+}
+
+/// The first `most` elements that the place's path with `[@name="NAME"]` selects.
+std::vector<IXMLDOMNode> find(const IXMLDOMNode& from, const Place& place, const std::string& name,
+                              std::size_t most = std::numeric_limits<std::size_t>::max())
+{
+    std::vector<IXMLDOMNode> found;
+    if (from.get_nodeType() != NodeType::document || !isQuotable(name)) {
+        std::string expression{place.root};
+        expression.append(place.rest).append("[@name=\"").append(name).append("\"]");
+        for (const IXMLDOMNode& node : from.selectNodes(expression)) {
+            if (found.size() == most) {
+                break;
+            }
+            found.push_back(node);
+        }
+        return found;
+    }
+    const IXMLDOMDocument document{from.ref()};
+    tableOf(document, place).visit(name, [&](const NodeMark& node) {
+        found.push_back(document.nodeAt(node));
+        return found.size() < most;
+    });
+    return found;
+}
+
+IXMLDOMNode findFirst(const IXMLDOMNode& from, const Place& place, const std::string& name)
+{
+    const auto found = find(from, place, name, 1);
+    return found.empty() ? IXMLDOMNode{} : found.front();
+}
+
+/// Whether a text is surely a name without a prefix; a name beyond ASCII is left to the expression.
+bool isPlainName(std::string_view text)
+{
+    const auto isLetter = [](char c) {
+        return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || c == '_';
+    };
+    const auto isInner = [&](char c) {
+        return isLetter(c) || (c >= '0' && c <= '9') || c == '-' || c == '.';
+    };
+    return !text.empty() && isLetter(text.front()) &&
+           std::all_of(text.begin(), text.end(), isInner);
+}
+
+} // namespace
+
+// --- Opening ----------------------------------------------------------------------------------
+
+IXMLDOMDocument openText(std::string_view xml)
+{
+    const IXMLDOMDocument document = IXMLDOMDocument::create();
+    document.loadXML(xml);
+    document.setSelectionNamespaces(kPrefixes);
+    return document;
+}
+
+IXMLDOMDocument openFile(const std::string& path)
+{
+    const IXMLDOMDocument document = IXMLDOMDocument::create();
+    document.load(path);
+    document.setSelectionNamespaces(kPrefixes);
+    return document;
+}
+
+IXMLDOMDocument openEmptyRequest()
+{
+    const IXMLDOMDocument document = IXMLDOMDocument::create();
+    document.loadXML(R"(<?xml version="1.0"?><dtm></dtm>)");
+    return document;
+}
+
+// --- The datafile -----------------------------------------------------------------------------
+
+IXMLDOMNode findParameter(const IXMLDOMNode& datafile, const std::string& name)
+{
+    return findFirst(datafile, kParameters, name);
+}
+
+IXMLDOMNode findMappedParam(const IXMLDOMNode& datafile, const std::string& name)
+{
+    return findFirst(datafile, kMappedParams, name);
+}
+
+IXMLDOMNode findRequestGroup(const IXMLDOMNode& datafile, const std::string& name)
+{
+    return findFirst(datafile, kRequestGroups, name);
+}
+
+IXMLDOMNode findLastUpdate(const IXMLDOMNode& datafile, const std::string& group)
+{
+    for (const IXMLDOMNode& node : find(datafile, kRequestGroups, group)) {
+        if (const IXMLDOMNode lastUpdate = attributeNode(node, "lastUpdate")) {
+            return lastUpdate;
+        }
+    }
+    return {};
+}
+
+std::string homeRequestGroup(const IXMLDOMNode& datafile, const std::string& name)
+{
+    const auto listings = find(datafile, kListings, name);
+    for (const IXMLDOMNode& listing : listings) {
+        const IXMLDOMNode clone = attributeNode(listing, "clone");
+        // An only listing is the real one, whatever it says.
+        if (listings.size() == 1 || !clone || clone.get_text() == "0") {
+            return attributeText(listing.get_parentNode(), "name");
+        }
+    }
+    return {};
+}
+
+// --- Responses --------------------------------------------------------------------------------
+
+IXMLDOMNode findItem(const IXMLDOMNode& response, const std::string& name)
+{
+    return findFirst(response, kItems, name);
+}
+
+std::string responseAttribute(const IXMLDOMNode& response, const std::string& name)
+{
+    return response.selectSingleNode("comm:dtm/comm:communicationResponse/@" + name).get_text();
+}
+
+IXMLDOMNodeList errorItems(const IXMLDOMNode& response)
+{
+    return response.selectNodes("//comm:item[@name!=\"testStatus\"]");
+}
+
+// --- The node in hand -------------------------------------------------------------------------
+
+std::string attributeText(const IXMLDOMNode& node, const std::string& name)
+{
+    return attributeNode(node, name).get_text();
+}
+
+std::string itemValue(const IXMLDOMNode& item, const std::string& type)
+{
+    const bool isElement = item.get_nodeType() == NodeType::element;
+    return (isElement && isPlainName(type)
+                ? platform::childElement(item, kCommunicationSchema, type)
+                : item.selectSingleNode("./comm:" + type))
+        .get_text();
+}
+
+void writeAttribute(const IXMLDOMNode& node, const std::string& name, const std::string& value)
+{
+    if (const IXMLDOMNode present = attributeNode(node, name)) {
+        present.put_value(value);
+        return;
+    }
+    const IXMLDOMNode added = node.get_ownerDocument().createAttribute(name);
+    added.put_value(value);
+    node.get_attributes().setNamedItem(added);
+}
+
+// --- Items ------------------------------------------------------------------------------------
+
+IXMLDOMDocument itemDocument(const std::string& name, const std::string& unit,
+                             const std::string& type, const std::string& value)
+{
+    const IXMLDOMDocument document = IXMLDOMDocument::create();
+    const IXMLDOMNode     item     = document.appendChild(document.createElement("item"));
+    writeAttribute(item, "name", name);
+    item.appendChild(document.createElement(type)).put_text(value);
+    writeAttribute(item, "unit", unit);
+    return document;
+}
+
+} // namespace quill::documents
