@@ -228,11 +228,9 @@ void CtrTextEdit::forcePackedAscii()
 
 void CtrTextEdit::writeBack(const Steps& step)
 {
-    step([&] {
-        documents::writeAttribute(mDataNode, "value", FormatForCommunication(txtBox.Text));
-    });
-    step([&] { documents::writeAttribute(mDataNode, "unit", mMessageUnit); });
-    step([&] { documents::writeAttribute(mDataNode, "synchronised", "0"); });
+    step([&] { mValueWriter.write(mDataNode, FormatForCommunication(txtBox.Text)); });
+    step([&] { mUnitWriter.write(mDataNode, mMessageUnit); });
+    step([&] { mSynchronisedWriter.write(mDataNode, "0"); });
 }
 
 void CtrTextEdit::forwardChanges()

@@ -43,7 +43,8 @@ void CtrTextEdit::readFormat(const Steps& step, const IXMLDOMNode& parameter)
     step([&] { mDecimalCount = values::toInt16(modTools::ParseNumber(decimals)); });
     mNumberFormat = "######0";
     if (mDecimalCount >= 1) {
-        mNumberFormat += "." + std::string(static_cast<std::size_t>(mDecimalCount), '0');
+        mNumberFormat += '.';
+        mNumberFormat.append(static_cast<std::size_t>(mDecimalCount), '0');
     }
 }
 

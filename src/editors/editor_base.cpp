@@ -3,6 +3,7 @@
 #include "framework/documents.h"
 #include "framework/values.h"
 #include "platform/failure.h"
+#include "platform/utf8.h"
 
 #include <algorithm>
 
@@ -215,13 +216,25 @@ bool EditorBase::isAskedFor(std::int16_t scope) const
            (scope == kAllEditors && !mContextTag.empty());
 }
 
-void EditorBase::writeValue(const Steps& step, const std::string& value) const
+void EditorBase::writeValue(const Steps& step, const std::string& value)
 {
     if (!mDataNode) {
         return;
     }
-    step([&] { documents::writeAttribute(mDataNode, "value", value); });
-    step([&] { documents::writeAttribute(mDataNode, "synchronised", "0"); });
+    step([&] { mValueWriter.write(mDataNode, value); });
+    step([&] { mSynchronisedWriter.write(mDataNode, "0"); });
+}
+
+IXMLDOMDocument EditorBase::itemOf(const Steps& step, const std::string& type,
+                                   const std::string& value) const
+{
+    constexpr std::int32_t kPrefixLength = 4; // "ctr_"
+    return step.value(IXMLDOMDocument::create(), [&] {
+        return Tag.get().empty() || type.empty()
+                   ? IXMLDOMDocument::create()
+                   : documents::itemDocument(platform::utf8::substring(Tag.get(), kPrefixLength),
+                                             documents::kNoUnit, type, value);
+    });
 }
 
 bool EditorBase::isWritable(const std::string& access)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/documents.h"
 #include "framework/editor_contract.h"
 #include "framework/steps.h"
 #include "platform/label.h"
@@ -128,21 +129,28 @@ protected:
     /// Whether `ViewGetChanges` with this scope is meant for this editor.
     [[nodiscard]] bool isAskedFor(std::int16_t scope) const;
     /// Writes `value` and the mark "not in step" into the datafile.
-    void writeValue(const Steps& step, const std::string& value) const;
+    void writeValue(const Steps& step, const std::string& value);
+    /// The item that carries a value without a unit; an empty document while `Tag` or `type` is
+    /// empty.
+    [[nodiscard]] IXMLDOMDocument itemOf(const Steps& step, const std::string& type,
+                                         const std::string& value) const;
     /// Makes the box read-only where `access` does not contain "write" in any letter case.
     [[nodiscard]] static bool isWritable(const std::string& access);
 
     /// Places the signs and what else stands right of the box; `unitWidth` is what lies between.
     void layout(std::int32_t unitWidth);
 
-    std::string mContextTag;
-    std::string mLabelText;
-    std::string mValueType;
-    std::string mChangeState = "original";
-    std::string mSyncState   = "notRead";
-    IXMLDOMNode mDataNode;
-    bool        mHasSynced = false;
-    bool        mSilent    = false;
+    std::string                mContextTag;
+    std::string                mLabelText;
+    std::string                mValueType;
+    std::string                mChangeState = "original";
+    std::string                mSyncState   = "notRead";
+    IXMLDOMNode                mDataNode;
+    documents::AttributeWriter mValueWriter{"value"};
+    documents::AttributeWriter mUnitWriter{"unit"};
+    documents::AttributeWriter mSynchronisedWriter{"synchronised"};
+    bool                       mHasSynced = false;
+    bool                       mSilent    = false;
 
 private:
     void start();

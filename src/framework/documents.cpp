@@ -4,10 +4,11 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cstdint>
 #include <limits>
 #include <memory>
 #include <optional>
-#include <unordered_map>
 #include <vector>
 
 namespace quill::documents {
@@ -43,48 +44,61 @@ constexpr Place kItems{4, "comm:dtm", "/comm:communicationResponse/comm:item"};
 
 constexpr std::size_t kPlaces = 5;
 
-/// The named elements of one place. Those of one name form a chain in document order.
+/// The named elements of one place, in document order, with a flat hash table over their names.
+/// Those of one name form a chain.
 class Table {
 public:
-    void reserve(std::size_t count)
+    /// `count` elements will be added.
+    explicit Table(std::size_t count) : mBuckets(std::bit_ceil(2 * count + 1), kNone)
     {
         mEntries.reserve(count);
-        mChains.reserve(count);
     }
     void add(std::string name, NodeMark node)
     {
-        const auto [chain, fresh] =
-            mChains.try_emplace(std::move(name), Chain{mEntries.size(), mEntries.size()});
-        if (!fresh) {
-            mEntries[chain->second.last].next = mEntries.size();
-            chain->second.last                = mEntries.size();
+        const auto place  = static_cast<std::uint32_t>(mEntries.size());
+        auto&      bucket = mBuckets[bucketOf(name)];
+        mEntries.push_back({std::move(name), node, kNone});
+        if (bucket == kNone) {
+            bucket                     = place;
+            mEntries[place].lastOfName = place;
+            return;
         }
-        mEntries.push_back({node, kEnd});
+        Entry& first                    = mEntries[bucket];
+        mEntries[first.lastOfName].next = place;
+        first.lastOfName                = place;
     }
     /// Visits the elements of a name in document order, as long as `visit` answers true.
     template <class Visit>
     void visit(const std::string& name, Visit&& visit) const
     {
-        const auto chain = mChains.find(name);
-        if (chain == mChains.end()) {
-            return;
-        }
-        for (std::size_t at = chain->second.first; at != kEnd && visit(mEntries[at].node);) {
+        for (std::uint32_t at = mBuckets[bucketOf(name)];
+             at != kNone && visit(mEntries[at].node);) {
             at = mEntries[at].next;
         }
     }
 
 private:
-    static constexpr std::size_t kEnd = std::numeric_limits<std::size_t>::max();
+    static constexpr std::uint32_t kNone = std::numeric_limits<std::uint32_t>::max();
     struct Entry {
-        NodeMark    node;
-        std::size_t next;
+        std::string   name;
+        NodeMark      node;
+        std::uint32_t next;
+        std::uint32_t lastOfName = kNone; ///< kept by the first of a name
     };
-    struct Chain {
-        std::size_t first, last;
-    };
-    std::vector<Entry>                     mEntries;
-    std::unordered_map<std::string, Chain> mChains;
+
+    /// Where the first element of this name stands, or would.
+    [[nodiscard]] std::size_t bucketOf(const std::string& name) const
+    {
+        const std::size_t mask = mBuckets.size() - 1;
+        std::size_t       at   = std::hash<std::string>{}(name)&mask;
+        while (mBuckets[at] != kNone && mEntries[mBuckets[at]].name != name) {
+            at = (at + 1) & mask;
+        }
+        return at;
+    }
+
+    std::vector<Entry>         mEntries;
+    std::vector<std::uint32_t> mBuckets;
 };
 
 /// What a document carries in its cache. Each table is made when it is first asked for.
@@ -116,8 +130,7 @@ Table makeTable(const IXMLDOMDocument& document, const Place& place)
         level = std::move(next);
     }
 
-    Table table;
-    table.reserve(level.size());
+    Table table{level.size()};
     for (const IXMLDOMNode& element : level) {
         if (const IXMLDOMNode name = attributeNode(element, "name")) {
             table.add(name.get_text(), NodeMark{element});
@@ -293,6 +306,16 @@ std::string itemValue(const IXMLDOMNode& item, const std::string& type)
                 ? platform::childElement(item, kCommunicationSchema, type)
                 : item.selectSingleNode("./comm:" + type))
         .get_text();
+}
+
+void AttributeWriter::write(const IXMLDOMNode& node, const std::string& value)
+{
+    if (!platform::isAttributeOf(mAttribute, node)) {
+        writeAttribute(node, mName, value);
+        mAttribute = attributeNode(node, mName);
+        return;
+    }
+    mAttribute.put_value(value);
 }
 
 void writeAttribute(const IXMLDOMNode& node, const std::string& name, const std::string& value)

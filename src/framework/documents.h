@@ -71,6 +71,20 @@ inline constexpr const char* kNoUnit = "noUnit";
 /// Writes an attribute, which is added if it is missing. Failure 91 for no node.
 void writeAttribute(const IXMLDOMNode& node, const std::string& name, const std::string& value);
 
+/// Writes one attribute again and again, as an editor does with every keystroke, without searching
+/// for it each time. Whoever replaces or removes the attribute meanwhile is heeded.
+class AttributeWriter {
+public:
+    /// `name` must be a literal.
+    explicit AttributeWriter(const char* name) : mName(name) {}
+    /// As `writeAttribute`.
+    void write(const IXMLDOMNode& node, const std::string& value);
+
+private:
+    const char* mName;
+    IXMLDOMNode mAttribute;
+};
+
 // --- Items that a control gives back. ---------------------------------------------------------
 
 /// The small document of one item: `<item name= unit=><TYPE>value</TYPE></item>`, in no namespace.

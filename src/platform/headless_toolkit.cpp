@@ -2,13 +2,18 @@
 
 #include "platform/utf8.h"
 
+#include <algorithm>
 #include <cmath>
+#include <cstdint>
 
 namespace quill::platform {
 
 namespace {
 
 Toolkit* gToolkit = nullptr;
+
+/// In twips: about 1.7 kilometres.
+constexpr std::int64_t kWidestText = 100'000'000;
 
 } // namespace
 
@@ -48,7 +53,9 @@ void HeadlessToolkit::advance(double seconds)
 std::int32_t HeadlessToolkit::textWidth(const std::string& text)
 {
     before("textWidth");
-    return utf8::length(text) * characterWidth;
+    // A text of any length has a width that a form can be laid out with.
+    const auto width = std::int64_t{utf8::length(text)} * characterWidth;
+    return static_cast<std::int32_t>(std::clamp(width, -kWidestText, kWidestText));
 }
 
 DateTime HeadlessToolkit::now()

@@ -49,11 +49,11 @@ void detail::propertyChanged(Widget& owner, const void* property)
 }
 
 Widget::Widget(const Design& design)
-    : Name(design.Name), Index(design.Index), Tag(*this, design.Tag), Left(*this, design.Left),
+    : Visible(*this, design.Visible), Enabled(*this, design.Enabled), ForeColor(*this, kWindowText),
+      BackColor(*this, kButtonFace), TabStop(*this, true), Left(*this, design.Left),
       Top(*this, design.Top), Width(*this, design.Width), Height(*this, design.Height),
-      Visible(*this, design.Visible), Enabled(*this, design.Enabled), TabStop(*this, true),
-      ForeColor(*this, kWindowText), BackColor(*this, kButtonFace), ToolTipText(*this),
-      ZPosition(*this)
+      ZPosition(*this), Tag(*this, design.Tag), ToolTipText(*this), Index(design.Index),
+      Name(design.Name)
 {
 }
 

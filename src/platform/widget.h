@@ -85,29 +85,32 @@ public:
     Widget(const Widget&)            = delete;
     Widget& operator=(const Widget&) = delete;
 
-    const std::string Name;
-    const int         Index;
+    // What changes while data comes in stands together: a response touches thousands of widgets,
+    // and memory is what it then costs.
+    Property<bool>  Visible;
+    Property<bool>  Enabled;
+    Property<Color> ForeColor;
+    Property<Color> BackColor;
+    /// Raised after every change of state, for whoever shows the widget.
+    mutable Event<const WidgetChange&> Changed;
 
-    Property<std::string>  Tag;
+    Property<bool>         TabStop;
     Property<std::int32_t> Left;
     Property<std::int32_t> Top;
     Property<std::int32_t> Width;
     Property<std::int32_t> Height;
-    Property<bool>         Visible;
-    Property<bool>         Enabled;
-    Property<bool>         TabStop;
-    Property<Color>        ForeColor;
-    Property<Color>        BackColor;
-    Property<std::string>  ToolTipText;
     /// Place among the widgets of the same container, 0 in front.
     Property<std::int32_t> ZPosition;
+    Property<std::string>  Tag;
+    Property<std::string>  ToolTipText;
 
-    /// Raised after every change of state, for whoever shows the widget.
-    mutable Event<const WidgetChange&> Changed;
-    Event<>                            GotFocus;
-    Event<>                            LostFocus;
-    Event<KeyPress&>                   KeyDown;
-    Event<KeyPress&>                   KeyUp;
+    const int         Index;
+    const std::string Name;
+
+    Event<>          GotFocus;
+    Event<>          LostFocus;
+    Event<KeyPress&> KeyDown;
+    Event<KeyPress&> KeyUp;
 
     /// The kind, as the view dispatch and the probe name it ("Label", "CtrTextEdit").
     [[nodiscard]] virtual const char* TypeName() const = 0;

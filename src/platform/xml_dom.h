@@ -216,6 +216,8 @@ constexpr std::size_t kMaxDocumentBytes = 64U * 1024U * 1024U;
 /// document will do as well.
 /// The attribute of no namespace with this name, or nothing: what `./@name` selects.
 [[nodiscard]] IXMLDOMNode attributeNode(const IXMLDOMNode& element, std::string_view name);
+/// Whether the attribute belongs to this element at present. False for empty nodes.
+[[nodiscard]] bool isAttributeOf(const IXMLDOMNode& attribute, const IXMLDOMNode& element) noexcept;
 /// The first child element of this namespace and name, or nothing.
 [[nodiscard]] IXMLDOMNode childElement(const IXMLDOMNode& element, std::string_view namespaceURI,
                                        std::string_view name);

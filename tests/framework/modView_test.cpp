@@ -39,11 +39,11 @@ public:
         given = messenger;
     }
     Messenger* GetMessenger() override { return given; }
-    void SetErrorData(const IXMLDOMNode&) override { heard("SetErrorData"); }
-    void SetImportData(const IXMLDOMNode&) override { heard("SetImportData"); }
-    void SetOfflineData(const IXMLDOMNode&) override { heard("SetOfflineData"); }
-    void SetOnlineData(const IXMLDOMNode&) override { heard("SetOnlineData"); }
-    void SetSelectedView(const std::string& name) override
+    void       SetErrorData(const IXMLDOMNode&) override { heard("SetErrorData"); }
+    void       SetImportData(const IXMLDOMNode&) override { heard("SetImportData"); }
+    void       SetOfflineData(const IXMLDOMNode&) override { heard("SetOfflineData"); }
+    void       SetOnlineData(const IXMLDOMNode&) override { heard("SetOnlineData"); }
+    void       SetSelectedView(const std::string& name) override
     {
         heard("SetSelectedView " + name);
         if (name == answersView) {

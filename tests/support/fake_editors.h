@@ -35,10 +35,10 @@ protected:
 
 /// An editor of any kind that keeps no value of its own.
 class FakeEditor : public platform::Control,
-                     public IQornComponent,
-                     public ILocalizable,
-                     public BoundEditor,
-                     public FakeEditorBase {
+                   public IQornComponent,
+                   public ILocalizable,
+                   public BoundEditor,
+                   public FakeEditorBase {
 public:
     FakeEditor(platform::Widget& container, EditorKind kind, const std::string& tag)
         : Control(container, {.Name = "editor", .Tag = tag}), mKind(kind)

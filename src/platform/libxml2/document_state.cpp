@@ -4,6 +4,7 @@
 
 #include <new>
 
+#include <libxml/dict.h>
 #include <libxml/valid.h>
 
 namespace quill::platform::detail {
@@ -31,11 +32,37 @@ NodeRef::~NodeRef()
     document->release(node);
 }
 
+namespace {
+
+struct DictDeleter {
+    void operator()(xmlDict* dict) const noexcept { xmlDictFree(dict); }
+};
+
+/// The dictionary of names for the next document. Documents share one, so that the same few names
+/// are not kept once per node and a node moves from document to document as it is. One that hostile
+/// documents have filled up is left to those that use it.
+xmlDict* namesForNewDocument()
+{
+    constexpr int                                kMostNames = 20000;
+    static std::unique_ptr<xmlDict, DictDeleter> names;
+    if (names == nullptr || xmlDictSize(names.get()) > kMostNames) {
+        names.reset(xmlDictCreate());
+        if (names == nullptr) {
+            throw std::bad_alloc();
+        }
+    }
+    return names.get();
+}
+
+} // namespace
+
 DocumentState::DocumentState() : doc(xmlNewDoc(nullptr))
 {
     if (doc == nullptr) {
         throw std::bad_alloc();
     }
+    doc->dict = namesForNewDocument();
+    xmlDictReference(doc->dict);
 }
 
 DocumentState::~DocumentState()
@@ -156,6 +183,8 @@ void DocumentState::keepOrFree(xmlNode* node)
 
 void DocumentState::adopt(xmlNode* tree)
 {
+    // What the other document's dictionary holds would go with it.
+    xmlDict* const names = tree->doc->dict != doc->dict ? tree->doc->dict : nullptr;
     // Namespaces of one document mostly recur from node to node.
     std::unordered_map<const xmlNs*, xmlNs*> known;
     const auto                               translate = [&](xmlNs* ns) -> xmlNs* {
@@ -179,6 +208,15 @@ void DocumentState::adopt(xmlNode* tree)
             attribute->ns = translate(attribute->ns);
         } else if (isElement(node)) {
             node->ns = translate(node->ns);
+        }
+        if (names != nullptr) {
+            if (xmlDictOwns(names, node->name) == 1) {
+                node->name = xmlDictLookup(doc->dict, node->name, -1);
+            }
+            if (!isElement(node) && !isAttribute(node) && node->content != nullptr &&
+                xmlDictOwns(names, node->content) == 1) {
+                node->content = xmlStrdup(node->content);
+            }
         }
         node->doc = doc;
         if (NodeRef* ref = refOf(node); ref != nullptr) {

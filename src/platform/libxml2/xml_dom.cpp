@@ -223,6 +223,12 @@ IXMLDOMNode attributeNode(const IXMLDOMNode& element, std::string_view name)
     return {};
 }
 
+bool isAttributeOf(const IXMLDOMNode& attribute, const IXMLDOMNode& element) noexcept
+{
+    return attribute && element && detail::isAttribute(attribute.ref()->node) &&
+           attribute.ref()->node->parent == element.ref()->node;
+}
+
 IXMLDOMNode childElement(const IXMLDOMNode& element, std::string_view namespaceURI,
                          std::string_view name)
 {

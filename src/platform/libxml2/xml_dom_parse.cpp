@@ -75,11 +75,15 @@ void refuseCrowdedTags(std::string_view text)
 /// One run of the parser. Its call-backs stop it at what is never read; libxml2 builds the tree.
 class Reader {
 public:
-    Reader() : mParser(xmlNewParserCtxt())
+    /// The document that is read uses these names.
+    explicit Reader(xmlDict* names) : mParser(xmlNewParserCtxt())
     {
         if (mParser == nullptr) {
             throw std::bad_alloc();
         }
+        xmlDictFree(mParser->dict);
+        mParser->dict = names;
+        xmlDictReference(names);
         mStartElement                    = mParser->sax->startElementNs;
         mParser->_private                = this;
         mParser->sax->startElementNs     = &Reader::startElement;
@@ -104,7 +108,7 @@ public:
         const ErrorTrap trap;
         mParser->myDoc =
             xmlCtxtReadMemory(mParser, text.data(), static_cast<int>(text.size()), nullptr, "UTF-8",
-                              XML_PARSE_NONET | XML_PARSE_NODICT | XML_PARSE_IGNORE_ENC);
+                              XML_PARSE_NONET | XML_PARSE_COMPACT | XML_PARSE_IGNORE_ENC);
         if (!mRefusal.empty()) {
             refuseDocument(mRefusal, mLine);
         }
@@ -224,7 +228,7 @@ void readInto(detail::DocumentState& state, std::string_view text)
         refuseDocument("it is not UTF-8", 0);
     }
     refuseCrowdedTags(text);
-    Reader  reader;
+    Reader  reader{state.doc->dict};
     xmlDoc* fresh = reader.read(text);
     settle(fresh);
     state.replaceContent(fresh);

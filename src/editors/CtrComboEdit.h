@@ -1,0 +1,128 @@
+#pragma once
+
+#include "editors/editor_base.h"
+#include "platform/combo_box.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace quill {
+
+/// The editor of one parameter whose values form a list, with a sign that opens help on the chosen
+/// entry. The list is a private copy of a `data:mappedParam`; its entries can be hidden. What the
+/// user chooses goes into the datafile at once.
+class CtrComboEdit : public EditorBase, public MappedEditor {
+public:
+    explicit CtrComboEdit(const platform::Design& design = {});
+    CtrComboEdit(platform::Widget& container, const platform::Design& design = {});
+    ~CtrComboEdit() override;
+
+    platform::ComboBox cboBox{*this, {.Name = "cboBox"}};
+    platform::Label    lblInfo{*this, {.Name = "lblInfo", .Caption = "?", .Visible = false}};
+
+    /// The chosen entry by its `name`, empty for none: after every value that the program shows,
+    /// and after the user has chosen another entry.
+    platform::Event<const std::string&> Change;
+    /// The user has chosen an entry that differs from the original one; the argument is true. Known
+    /// to hosts as `Modified`.
+    platform::Event<bool> ModifiedEvent;
+
+    [[nodiscard]] const char* TypeName() const override { return "CtrComboEdit"; }
+    [[nodiscard]] EditorKind  kind() const override { return EditorKind::combo; }
+
+    [[nodiscard]] bool Locked() const { return cboBox.Locked; }
+    void               setLocked(bool locked) { cboBox.Locked = locked; }
+
+    /// Keeps the editor from booking, beside `Silent` and untouched by what the datafile says.
+    [[nodiscard]] bool SilentAlltoghether() const { return mSilentAlltoghether; }
+    void               setSilentAlltoghether(bool silent) { mSilentAlltoghether = silent; }
+
+    /// The text in the box.
+    [[nodiscard]] std::string Text() const { return cboBox.Text(); }
+    /// Chooses the entry that `GetIndex` finds for the text, or none. `Change` is raised if that is
+    /// another one than before; nothing else moves.
+    void setText(const std::string& text);
+
+    /// Fills the box anew with the visible entries, in the language of the host's Translator; the
+    /// chosen row is chosen again. Without a Translator the entries are shown by name.
+    void RefreshItemList();
+    /// Hides or shows the entry with the name `key`, from the next `RefreshItemList` or `Localize`.
+    void SetItemVisibility(const std::string& key, bool visibility);
+    void SetItemVisibilityAll(bool visibility);
+    /// Shows or hides the sign that opens help. `infoTag` is the key of the help's heading and the
+    /// stem of the keys of its texts; without one the former stays.
+    void ShowInfo(bool visibility, const std::string& infoTag = {});
+
+    [[nodiscard]] bool HasMappings() const { return mMappings.has_value(); }
+    /// The `value` of the chosen entry as a number; -1 for no entry or one without a number.
+    [[nodiscard]] std::int32_t getSelectedValue() const;
+    /// Correct and not empty.
+    [[nodiscard]] bool downloadable() const { return Correct() && !Text().empty(); }
+
+    /// The row of the first entry whose `value` or `name` is the text; -1 for none, -2 for one that
+    /// is hidden. For type "floatVal" a number is rounded first: "1.0" finds the entry "1".
+    [[nodiscard]] std::int16_t GetIndex(const std::string& value) const;
+    /// The `name` of the entry in a row, empty for none.
+    [[nodiscard]] std::string GetComboText(std::int32_t index) const;
+
+    // MappedEditor
+    void SetMappings(const IXMLDOMNode& mappedParam) override;
+    // BoundEditor
+    bool setImportData(const IXMLDOMNode& parameter) override;
+    bool setOfflineData(const IXMLDOMNode& parameter) override;
+    bool setOnlineData(const IXMLDOMNode& item) override;
+    void handleError(const std::string& code) override;
+    // IQornDataEditor: the item carries the chosen entry's `value`.
+    IXMLDOMDocument GetXmlItem(bool force) override;
+    // ILocalizable
+    void Localize(Translator& translator) override;
+
+    /// The entries with `comboIndex` and `visible`, if there is a list.
+    [[nodiscard]] const std::optional<IXMLDOMNodeList>& mappings() const { return mMappings; }
+    [[nodiscard]] std::int32_t       selectedIndex() const { return mSelectedIndex; }
+    [[nodiscard]] const std::string& originalText() const { return mOriginalText; }
+    [[nodiscard]] const std::string& infoTag() const { return mInfoTag; }
+
+protected:
+    [[nodiscard]] const char*             word() const override { return "Combo"; }
+    [[nodiscard]] platform::Widget&       box() override { return cboBox; }
+    [[nodiscard]] const platform::Widget& box() const override { return cboBox; }
+    [[nodiscard]] bool                    isLocked() const override { return cboBox.Locked; }
+    void keepOriginal() override { mOriginalText = GetComboText(cboBox.ListIndex()); }
+    void ViewGetChanges(std::int16_t scope) override;
+
+private:
+    void start();
+    void arrange();
+    void cboBox_Click();
+    void lblInfo_Click();
+
+    /// The host's Translator; failure 91 if there is none.
+    [[nodiscard]] Translator& translator() const;
+    /// Gives every visible entry its row, hidden ones none; entries are shown by name without a
+    /// Translator.
+    void fillList(const Steps& step, Translator* translator);
+    /// The entry in a row, nothing for none.
+    [[nodiscard]] IXMLDOMNode entryAt(const Steps& step, std::int32_t row) const;
+    /// The `value` of the chosen entry, empty for none.
+    [[nodiscard]] std::string chosenValue(const Steps& step) const;
+    /// The row for a value, where an entry that is hidden counts as none.
+    [[nodiscard]] std::int32_t rowOf(const std::string& value) const;
+    /// Shows a value that came from outside.
+    void showValue(const Steps& step, const std::string& value);
+    void setWritable(bool writable);
+
+    std::optional<IXMLDOMNodeList> mMappings;
+
+    std::string  mOriginalText;
+    std::string  mInfoTag;
+    std::int32_t mSelectedIndex      = -1;
+    bool         mSilentAlltoghether = false;
+
+    platform::Subscription mOnClick;
+    platform::Subscription mOnInfo;
+    platform::Subscription mOnResize;
+};
+
+} // namespace quill

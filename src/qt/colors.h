@@ -1,0 +1,37 @@
+#pragma once
+
+#include "platform/property.h"
+
+#include <QPalette>
+
+namespace quill::qt {
+
+/// The colour on screen for a colour of a model. A system colour is the palette's. Any other is
+/// shown as it is on a light palette; on a dark one it keeps its meaning, not its value: white
+/// becomes the palette's `Base`, greys a darker `Base`, a tinted ground the same tint in dark, and
+/// a text the same hue, light enough to be read on its ground.
+///
+/// `role` is the role that the colour is for: `Base`, `Window` or `Button` for a ground, `Text`,
+/// `WindowText` or `ButtonText` for what is written on it. `ground` is the ground of a text as it
+/// is on screen; without one it is the palette's that belongs to the role.
+[[nodiscard]] QColor shownColor(platform::Color color, QPalette::ColorRole role,
+                                const QPalette& palette, const QColor& ground = {});
+
+/// Text of a box that is disabled for now: fainter than `text`, but a value that is to be read.
+[[nodiscard]] QColor faintColor(const QColor& text, const QColor& ground);
+
+/// The colour of outlines on a dark palette, which the stock style would draw darker than the
+/// ground.
+[[nodiscard]] QColor outlineColor(const QPalette& palette);
+
+/// A palette whose texts are lighter than their grounds.
+[[nodiscard]] bool isDark(const QPalette& palette);
+
+/// Contrast between two colours, 1 (none) to 21 (black on white), as the accessibility guidelines
+/// for the web define it.
+[[nodiscard]] double contrast(const QColor& a, const QColor& b);
+
+/// Least contrast of a text on a dark palette.
+constexpr double kReadableContrast = 4.5;
+
+} // namespace quill::qt

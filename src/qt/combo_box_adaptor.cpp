@@ -1,0 +1,160 @@
+#include "qt/kinds.h"
+#include "qt/text.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QLineEdit>
+#include <QSignalBlocker>
+#include <QStyleOptionComboBox>
+#include <QStylePainter>
+
+namespace quill::qt {
+
+namespace {
+
+/// Opens its list wide enough for every entry, and shows by an ellipsis that a text goes on.
+class Combo : public QComboBox {
+public:
+    using QComboBox::QComboBox;
+
+    void showPopup() override
+    {
+        constexpr int kMargin = 24;
+        view()->setMinimumWidth(view()->sizeHintForColumn(0) + kMargin);
+        QComboBox::showPopup();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* event) override
+    {
+        if (isEditable()) {
+            QComboBox::paintEvent(event);
+            return;
+        }
+        QStylePainter        painter(this);
+        QStyleOptionComboBox option;
+        initStyleOption(&option);
+        painter.drawComplexControl(QStyle::CC_ComboBox, option);
+        const int room =
+            style()
+                ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
+                .width();
+        option.currentText =
+            fontMetrics().elidedText(option.currentText, Qt::ElideRight, room - kTextMargin);
+        painter.drawControl(QStyle::CE_ComboBoxLabel, option);
+    }
+
+private:
+    static constexpr int kTextMargin = 4;
+};
+
+class ComboAdaptor : public KindAdaptor<platform::ComboBox, QComboBox> {
+public:
+    ComboAdaptor(Screen& screen, platform::ComboBox& model, QComboBox* box)
+        : KindAdaptor(screen, model, box)
+    {
+        box->setInsertPolicy(QComboBox::NoInsert);
+        box->setSizeAdjustPolicy(QComboBox::AdjustToMinimumContentsLengthWithIcon);
+        connect(box, &QComboBox::activated, this, [this](int row) {
+            if (this->model() != nullptr) {
+                byUser([&] { kind().choose(row); });
+            }
+        });
+        connect(box, &QComboBox::editTextChanged, this, [this](const QString& text) {
+            // Only what the user types arrives here; a row that he chooses is told by itself.
+            if (this->model() != nullptr && kind().Editable && shown()->lineEdit() != nullptr &&
+                shown()->lineEdit()->isModified()) {
+                byUser([&] { kind().type(fromQt(text)); });
+            }
+        });
+    }
+
+    void update() override
+    {
+        Adaptor::update();
+        const QSignalBlocker quiet(shown());
+        showEditable();
+        // A box that is not editable is painted as a button by many styles.
+        showColors(kind().Editable ? QPalette::Text : QPalette::ButtonText,
+                   kind().Editable ? QPalette::Base : QPalette::Button);
+        // The entries of the open list have no state of their own.
+        shown()->view()->setPalette(QApplication::palette(shown()->view()));
+        showRows();
+        if (shown()->currentIndex() != kind().ListIndex()) {
+            shown()->setCurrentIndex(kind().ListIndex());
+        }
+        if (const QString text = toQt(kind().Text());
+            kind().Editable && shown()->currentText() != text) {
+            shown()->setEditText(text);
+        }
+        showToolTip();
+    }
+
+    void place(const QRect& rect) override
+    {
+        Adaptor::place(rect);
+        showToolTip();
+    }
+
+    [[nodiscard]] Fit fit() const override
+    {
+        constexpr int kUsualHeight = 315;
+        return {shown()->sizeHint(), kUsualHeight, false, true};
+    }
+
+protected:
+    [[nodiscard]] bool takesText() const override { return kind().Editable; }
+    [[nodiscard]] bool changesByWheel() const override { return true; }
+
+    void note(const platform::WidgetChange& change) override
+    {
+        mRebuild = mRebuild || change.what == platform::WidgetChange::What::reset;
+    }
+
+    [[nodiscard]] QString extraToolTip() const override
+    {
+        constexpr int kArrow = 28;
+        const QString text   = model() != nullptr ? toQt(kind().Text()) : QString{};
+        return shown()->fontMetrics().horizontalAdvance(text) > shown()->width() - kArrow
+                   ? text
+                   : QString{};
+    }
+
+private:
+    void showEditable()
+    {
+        if (shown()->isEditable() != kind().Editable) {
+            shown()->setEditable(kind().Editable);
+            if (kind().Editable) {
+                shown()->setCompleter(nullptr);
+            }
+        }
+        if (shown()->lineEdit() != nullptr) {
+            shown()->lineEdit()->setReadOnly(kind().Locked);
+        }
+    }
+
+    void showRows()
+    {
+        const auto& list = kind().List();
+        if (mRebuild) {
+            mRebuild = false;
+            shown()->clear();
+        }
+        for (int row = shown()->count(); row < kind().ListCount(); ++row) {
+            shown()->addItem(toQt(list[static_cast<std::size_t>(row)]));
+        }
+    }
+
+    bool mRebuild = false;
+};
+
+} // namespace
+
+Adaptor* makeComboBox(Screen& screen, platform::ComboBox& model, QWidget* parent)
+{
+    return new ComboAdaptor(screen, model, new Combo(parent));
+}
+
+} // namespace quill::qt

@@ -1,0 +1,540 @@
+// What the text editor holds, how it checks what is typed, and its visible signs.
+
+#include "text_editor_fixture.h"
+
+namespace quill::test {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+class CtrTextEditTest : public TextEditorTest {};
+
+class CtrTextEditCommaTest : public TextEditorTest {
+protected:
+    CtrTextEditCommaTest() : TextEditorTest(",") {}
+};
+
+constexpr platform::Color kRed = 255, kBlue = 0xff0000, kGrey = 0xe0e0e0, kWhite = 0xffffff,
+                          kDefault = 0x80000008;
+
+TEST_F(CtrTextEditTest, StartsWithoutSignsAndInItsInitialState)
+{
+    EXPECT_FALSE(editor.lblError.Visible);
+    EXPECT_FALSE(editor.lblModified.Visible);
+    EXPECT_EQ(editor.lblError.Caption.get(), "!");
+    EXPECT_EQ(editor.lblModified.Caption.get(), "*");
+    EXPECT_EQ(editor.lblError.ForeColor.get(), kRed);
+    EXPECT_EQ(editor.lblModified.ForeColor.get(), kBlue);
+    EXPECT_EQ(editor.messageUnit(), "noUnit");
+    EXPECT_EQ(editor.numberFormat(), "######0");
+    EXPECT_EQ(editor.changeState(), "original");
+    EXPECT_EQ(editor.syncState(), "notRead");
+    EXPECT_EQ(editor.decimalSeparator(), ".");
+    EXPECT_EQ(editor.decimalCount(), 0);
+    EXPECT_TRUE(editor.allowEmpty());
+    EXPECT_FALSE(editor.IsInitialized());
+    EXPECT_TRUE(editor.Correct());
+    EXPECT_FALSE(editor.Modified());
+}
+
+TEST_F(CtrTextEditCommaTest, FindsTheSeparatorOfTheLocale)
+{
+    EXPECT_EQ(editor.decimalSeparator(), ",");
+}
+
+TEST_F(CtrTextEditTest, ModifiedIsTheVisibilityOfItsSignAndCorrectTheAbsenceOfTheOther)
+{
+    editor.lblModified.Visible = true;
+    EXPECT_TRUE(editor.Modified());
+    editor.lblError.Visible = true;
+    EXPECT_FALSE(editor.Correct());
+}
+
+TEST_F(CtrTextEditTest, GoesThroughItsColoursWithCorrectAndModified)
+{
+    editor.setModified(true);
+    EXPECT_EQ(editor.txtBox.ForeColor.get(), kBlue);
+    editor.setCorrect(false);
+    EXPECT_EQ(editor.txtBox.ForeColor.get(), kRed);
+    editor.setCorrect(true);
+    EXPECT_EQ(editor.txtBox.ForeColor.get(), kBlue);
+    editor.setModified(false);
+    EXPECT_EQ(editor.txtBox.ForeColor.get(), kDefault);
+    editor.setCorrect(false);
+    editor.setModified(false);
+    EXPECT_EQ(editor.txtBox.ForeColor.get(), kRed);
+}
+
+TEST_F(CtrTextEditTest, EnabledPaintsTheBox)
+{
+    editor.setEnabled(false);
+    EXPECT_FALSE(editor.txtBox.Enabled);
+    EXPECT_EQ(editor.txtBox.BackColor.get(), kGrey);
+    editor.lblModified.Visible = true;
+    editor.setEnabled(true);
+    EXPECT_EQ(editor.txtBox.BackColor.get(), kWhite);
+    EXPECT_EQ(editor.txtBox.ForeColor.get(), kBlue);
+    editor.lblError.Visible = true;
+    editor.setEnabled(true);
+    EXPECT_EQ(editor.txtBox.ForeColor.get(), kRed);
+    editor.lblError.Visible    = false;
+    editor.lblModified.Visible = false;
+    editor.setEnabled(true);
+    EXPECT_EQ(editor.txtBox.ForeColor.get(), kDefault);
+}
+
+TEST_F(CtrTextEditTest, EnabledIsIgnoredWhileSilentAndLockedAtTheSameTime)
+{
+    editor.setSilent(true);
+    editor.setEnabled(false);
+    EXPECT_FALSE(editor.Enabled());
+    editor.setEnabled(true);
+    editor.setLocked(true);
+    editor.setEnabled(false);
+    EXPECT_TRUE(editor.Enabled());
+}
+
+TEST_F(CtrTextEditTest, ReadingTheBackgroundOfTheSignsGivesZero)
+{
+    editor.setSignBackColor(0x123456);
+    EXPECT_EQ(editor.SignBackColor(), 0U);
+    EXPECT_EQ(editor.BackColor.get(), 0x123456U);
+}
+
+TEST_F(CtrTextEditTest, ATypedTextIsAnEditUntilTheOriginalIsBack)
+{
+    load();
+    EXPECT_EQ(editor.Text(), "5.0");
+    type("6");
+    EXPECT_TRUE(editor.Modified());
+    EXPECT_THAT(states(), ElementsAre(state("edited")));
+    type("5.0");
+    EXPECT_FALSE(editor.Modified());
+    EXPECT_THAT(states(), ElementsAre(state("edited"), state("original")));
+    EXPECT_THAT(changes, ElementsAre("6", "5.0"));
+}
+
+TEST_F(CtrTextEditTest, ClearingModifiedMakesThePresentTextTheReference)
+{
+    load();
+    type("6");
+    editor.setModified(false);
+    EXPECT_EQ(editor.originalText(), "6");
+    type("5.0");
+    EXPECT_TRUE(editor.Modified());
+}
+
+TEST_F(CtrTextEditTest, ACommaInALocaleWithAPointTurnsIntoAPointAndPasses)
+{
+    load({{"type", "integerVal"}});
+    std::vector<bool> correct;
+    auto              watch = editor.lblError.Changed.subscribe(
+        [&](const platform::WidgetChange&) { correct.push_back(editor.Correct()); });
+    type("6,");
+    EXPECT_EQ(editor.Text(), "6.");
+    EXPECT_EQ(editor.txtBox.SelStart.get(), 2);
+    EXPECT_TRUE(editor.Correct());
+    EXPECT_THAT(correct, ElementsAre(false, true)); // wrong for a moment, then right
+}
+
+TEST_F(CtrTextEditCommaTest, APointInALocaleWithACommaTurnsIntoAComma)
+{
+    load();
+    type("4.5");
+    EXPECT_EQ(editor.Text(), "4,5");
+    EXPECT_TRUE(editor.Correct());
+    EXPECT_EQ(stored("value"), "4.5");
+}
+
+TEST_F(CtrTextEditTest, ATextThatIsNoNumberIsWrongAndStays)
+{
+    load();
+    type("abc");
+    EXPECT_FALSE(editor.Correct());
+    EXPECT_EQ(editor.Text(), "abc");
+    EXPECT_EQ(editor.txtBox.ForeColor.get(), kRed);
+    EXPECT_EQ(stored("value"), "5.0"); // what was correct last
+    EXPECT_THAT(states(), ElementsAre(state("edited"), state("editedError")));
+}
+
+TEST_F(CtrTextEditTest, TheChangeStateGoesThroughEveryRow)
+{
+    load();
+    type("abc");
+    type("7");
+    type("x");
+    type("5.0");
+    EXPECT_THAT(states(), ElementsAre(state("edited"), state("editedError"), state("corrected"),
+                                      state("editedError"), state("corrected"), state("original")));
+}
+
+TEST_F(CtrTextEditTest, ACorrectedTextThatStaysModifiedIsReportedOnce)
+{
+    load();
+    type("x");
+    messenger.clear();
+    type("7");
+    type("8");
+    EXPECT_THAT(states(), ElementsAre(state("corrected")));
+}
+
+TEST_F(CtrTextEditTest, WithoutAMessengerNoStateMoves)
+{
+    load();
+    editor.SetMessenger(nullptr);
+    type("7");
+    EXPECT_TRUE(editor.Modified());
+    EXPECT_EQ(editor.changeState(), "original");
+}
+
+TEST_F(CtrTextEditTest, AnIntegerFieldRefusesAFractionWithAMessageAndTakesTheFocusBack)
+{
+    translator.texts["ctr_travel"] = "Travel";
+    editor.Localize(translator);
+    load({{"type", "integerVal"}});
+    type("6.5");
+    EXPECT_FALSE(editor.Correct());
+    EXPECT_THAT(messenger.callsTo("ShowMessage"),
+                ElementsAre("ShowMessage(Inappropriate input, Travel not correct: 6.5 should be "
+                            "integer)"));
+    EXPECT_TRUE(editor.txtBox.HasFocus());
+}
+
+TEST_F(CtrTextEditTest, OutsideTheLimitsIsWrongWithoutAMessage)
+{
+    load({{"type", "integerVal"}});
+    type("101.5");
+    EXPECT_FALSE(editor.Correct());
+    EXPECT_FALSE(messenger.wasCalled("ShowMessage"));
+    type("-2");
+    EXPECT_FALSE(editor.Correct());
+}
+
+TEST_F(CtrTextEditTest, AValueEqualToALimitWithinTheTolerancePasses)
+{
+    load({{"decimals", "1"}}); // tolerance 0.9 * 0.1^3
+    type("100.0008");
+    EXPECT_TRUE(editor.Correct());
+    type("100.001");
+    EXPECT_FALSE(editor.Correct());
+    type("-0.0008");
+    EXPECT_TRUE(editor.Correct());
+}
+
+TEST_F(CtrTextEditTest, ComparesWithATolerance)
+{
+    EXPECT_EQ(editor.dblAComparedToB(10.8, 10), 0); // no decimals: 0.9
+    EXPECT_EQ(editor.dblAComparedToB(11, 10), 1);
+    EXPECT_EQ(editor.dblAComparedToB(9, 10), -1);
+    load({{"decimals", "2"}}); // 0.9 * 0.1^4
+    EXPECT_EQ(editor.dblAComparedToB(1.00008, 1), 0);
+    EXPECT_GT(editor.dblAComparedToB(1.0001, 1), 0);
+}
+
+TEST_F(CtrTextEditTest, NoLimitIsBeyondEverything)
+{
+    const double upper = CtrTextEdit::kUpperSentinel;
+    const double lower = CtrTextEdit::kLowerSentinel;
+    EXPECT_EQ(editor.dblAComparedToB(upper, 1), 50);
+    EXPECT_EQ(editor.dblAComparedToB(1, lower), 50);
+    EXPECT_EQ(editor.dblAComparedToB(lower, 1), -50);
+    EXPECT_EQ(editor.dblAComparedToB(1, upper), -50);
+    EXPECT_EQ(editor.dblAComparedToB(upper, upper), 50); // the first test counts
+    EXPECT_NE(editor.dblAComparedToB(2147483647.0, 0), 50);
+    EXPECT_LT(upper, std::numeric_limits<double>::max());
+}
+
+TEST_F(CtrTextEditTest, AnEmptyBoxIsCorrectAsLongAsEmptyIsAllowed)
+{
+    load();
+    type("");
+    EXPECT_TRUE(editor.Correct());
+    editor.setOnlineData(itemNode("bar", "4"));
+    type("");
+    EXPECT_FALSE(editor.Correct());
+}
+
+TEST_F(CtrTextEditTest, AnOnlineValueOfAReadOnlyParameterLeavesEmptyAllowed)
+{
+    load({{"access", "read"}});
+    editor.setOnlineData(itemNode("bar", "4"));
+    EXPECT_TRUE(editor.allowEmpty());
+}
+
+TEST_F(CtrTextEditTest, PackedAsciiTurnsToUpperCaseAndReplacesWhatHartDoesNotKnow)
+{
+    load({{"type", "stringVal"}, {"value", ""}, {"maxVal", "32"}});
+    editor.ForceHartPackedAscii(true);
+    editor.txtBox.type("valve ä{7", 3);
+    EXPECT_EQ(editor.Text(), "VALVE ??7");
+    EXPECT_EQ(editor.txtBox.SelStart.get(), 3);
+    EXPECT_EQ(stored("value"), "VALVE ??7");
+}
+
+TEST_F(CtrTextEditTest, AnyOtherTextIsTakenAsItIs)
+{
+    load({{"type", "stringVal"}, {"value", "a"}, {"maxVal", "32"}});
+    type("Ventil ä");
+    EXPECT_TRUE(editor.Correct());
+    EXPECT_EQ(stored("value"), "Ventil ä");
+}
+
+TEST_F(CtrTextEditTest, ACorrectTextGoesIntoTheDatafileAtOnce)
+{
+    load();
+    type("7.5");
+    EXPECT_EQ(stored("value"), "7.5");
+    EXPECT_EQ(stored("unit"), "bar");
+    EXPECT_EQ(stored("synchronised"), "0");
+}
+
+TEST_F(CtrTextEditTest, LosingTheFocusFormatsANumberAgain)
+{
+    load();
+    editor.txtBox.focus();
+    type("6");
+    editor.txtBox.blur();
+    EXPECT_EQ(editor.Text(), "6.0");
+    editor.txtBox.focus();
+    type("abc");
+    editor.txtBox.blur();
+    EXPECT_EQ(editor.Text(), "abc");
+}
+
+TEST_F(CtrTextEditTest, TypingTheOriginalInAnotherFormIsNoEditOnceTheFocusHasGone)
+{
+    load();
+    editor.txtBox.focus();
+    type("5");
+    EXPECT_TRUE(editor.Modified());
+    editor.txtBox.blur();
+    EXPECT_FALSE(editor.Modified());
+}
+
+TEST_F(CtrTextEditTest, GettingTheFocusSelectsTheWholeText)
+{
+    load();
+    editor.focus();
+    EXPECT_TRUE(editor.txtBox.HasFocus());
+    EXPECT_EQ(editor.txtBox.SelStart.get(), 0);
+    EXPECT_EQ(editor.txtBox.SelLength.get(), 3);
+}
+
+TEST_F(CtrTextEditTest, EnterIsSwallowedAndHandsTheFocusToTheHost)
+{
+    load();
+    int  reached = 0;
+    auto watch   = page.KeyDown.subscribe([&](platform::KeyPress&) { ++reached; });
+    editor.txtBox.press(platform::kKeyReturn);
+    EXPECT_EQ(reached, 0);
+    EXPECT_TRUE(messenger.wasCalled("TransferFocus"));
+    editor.txtBox.press(platform::kKeyEscape);
+    EXPECT_EQ(reached, 1);
+}
+
+TEST_F(CtrTextEditTest, EditingBarredDisablesTheBoxAndAnyOtherModeEnablesIt)
+{
+    messenger.ViewSetCommunicationMode.raise(kEditingBarred);
+    EXPECT_FALSE(editor.txtBox.Enabled);
+    EXPECT_EQ(editor.txtBox.type("1"), platform::UserDoor::refused);
+    messenger.ViewSetCommunicationMode.raise(kCommunication);
+    EXPECT_TRUE(editor.txtBox.Enabled);
+}
+
+TEST_F(CtrTextEditTest, WritingTextSetsTheOriginalInScreenForm)
+{
+    load();
+    editor.setText("7");
+    EXPECT_EQ(editor.originalText(), "7.0");
+    EXPECT_EQ(editor.Text(), "7.0");
+    EXPECT_FALSE(editor.Modified());
+    EXPECT_THAT(changes, ElementsAre("7.0"));
+}
+
+TEST_F(CtrTextEditTest, EditTextCountsAsTyped)
+{
+    load();
+    editor.EditText("8");
+    EXPECT_EQ(editor.Text(), "8");
+    EXPECT_TRUE(editor.Modified());
+}
+
+TEST_F(CtrTextEditTest, TheBoxKeepsItsSizeWhenTheUnitGrows)
+{
+    const auto box   = editor.txtBox.Width.get();
+    const auto width = editor.Width.get();
+    editor.setUnit("mmH2O");
+    EXPECT_EQ(editor.Width.get(), width + 5 * toolkit.characterWidth);
+    EXPECT_EQ(editor.txtBox.Width.get(), box);
+    editor.setUnit("noUnit");
+    EXPECT_EQ(editor.Unit(), "");
+    EXPECT_EQ(editor.Width.get(), width);
+    EXPECT_EQ(editor.txtBox.Width.get(), box);
+}
+
+TEST_F(CtrTextEditTest, TheBoxTakesWhatSignsAndUnitLeave)
+{
+    editor.setUnit("bar");
+    editor.resize(5000, 400);
+    EXPECT_EQ(editor.txtBox.Width.get(),
+              5000 - editor.lblModified.Width - editor.lblError.Width - 300 - 100);
+    EXPECT_GE(editor.lblUnit.Left.get(), editor.txtBox.Width.get());
+    EXPECT_GE(editor.lblModified.Left.get(), editor.lblUnit.Left + editor.lblUnit.Width);
+    editor.resize(10, 10);
+    EXPECT_EQ(editor.txtBox.Width.get(), 0);
+}
+
+TEST_F(CtrTextEditTest, UninitializeCutsTheBondAndEmptiesTheBox)
+{
+    load();
+    EXPECT_TRUE(editor.IsInitialized());
+    editor.Uninitialize();
+    EXPECT_FALSE(editor.IsInitialized());
+    EXPECT_EQ(editor.Text(), "");
+    type("9");
+    EXPECT_EQ(stored("value"), "5.0");
+}
+
+TEST_F(CtrTextEditTest, DownloadableIsCorrectAndNotEmpty)
+{
+    load();
+    EXPECT_TRUE(editor.downloadable());
+    type("");
+    EXPECT_FALSE(editor.downloadable());
+    type("x");
+    EXPECT_FALSE(editor.downloadable());
+}
+
+TEST_F(CtrTextEditTest, SetModifiedForwardReportsTheState)
+{
+    load();
+    editor.SetModifiedForward(true);
+    EXPECT_THAT(states(), ElementsAre(state("edited")));
+}
+
+TEST_F(CtrTextEditTest, AHandlerThatFailsCostsNeitherTheStateNorTheDatafile)
+{
+    load();
+    auto bad = editor.Change.subscribe(
+        [](const std::string&) { throw platform::failure(platform::kOverflow); });
+    type("7");
+    EXPECT_EQ(stored("value"), "7");
+    EXPECT_THAT(messenger.errors(),
+                ElementsAre("ReportError(TextEdit ctr_travel txtBox_Change, 6, Overflow)"));
+}
+
+TEST_F(CtrTextEditTest, ALateEventReachesNobodyOnceTheMessengerIsDropped)
+{
+    load();
+    editor.setMessenger(nullptr);
+    messenger.ViewSetCommunicationMode.raise(kEditingBarred);
+    EXPECT_TRUE(editor.txtBox.Enabled);
+    messenger.RequestChanges(kAllEditors);
+    EXPECT_THAT(messenger.bookings, IsEmpty());
+}
+
+// --- The pair ---------------------------------------------------------------------------------
+
+class PairTest : public TextEditorTest {
+protected:
+    PairTest()
+    {
+        document = datafile(parameterXml({{"name", "travel"}, {"value", "2"}, {"unit", ""}}) +
+                            parameterXml({{"name", "high"}, {"value", "10"}, {"unit", ""}}));
+        high.SetMessenger(&messenger);
+        editor.setOfflineData(documents::findParameter(document, "travel"));
+        high.setOfflineData(documents::findParameter(document, "high"));
+        editor.setParameterPair(&high, "max", 1);
+        messenger.clear();
+    }
+    CtrTextEdit high{page, {.Name = "high", .Tag = "ctr_high"}};
+};
+
+TEST_F(PairTest, LinksBothEditorsWithOneDistance)
+{
+    EXPECT_EQ(editor.pairMaxPartner(), &high);
+    EXPECT_EQ(high.pairMinPartner(), &editor);
+    EXPECT_EQ(editor.pairDifferenceMax(), 1);
+    EXPECT_EQ(high.pairDifferenceMin(), 1);
+}
+
+TEST_F(PairTest, TheUpperLimitFollowsThePartnerWithEveryKeystroke)
+{
+    high.txtBox.type("10");
+    EXPECT_EQ(editor.pairUpperLimit(), 9);
+    high.txtBox.type("1");
+    EXPECT_EQ(editor.pairUpperLimit(), 0);
+    EXPECT_FALSE(editor.Correct()); // 2 is too near to 1
+    high.txtBox.type("10");
+    EXPECT_TRUE(editor.Correct());
+    type("9.5");
+    EXPECT_FALSE(editor.Correct());
+    EXPECT_EQ(high.pairLowerLimit(), 10.5);
+    EXPECT_FALSE(high.Correct());
+}
+
+TEST_F(PairTest, APartnerThatIsDisabledBlocksNothing)
+{
+    high.txtBox.type("10");
+    high.setEnabled(false);
+    type("50");
+    EXPECT_TRUE(editor.Correct());
+}
+
+TEST_F(PairTest, AnEmptyOrWrongPartnerIsWrongOnceTheOtherMoves)
+{
+    high.txtBox.type("");
+    EXPECT_TRUE(high.Correct());
+    type("3");
+    EXPECT_FALSE(high.Correct());
+}
+
+TEST_F(PairTest, ANewPartnerReplacesTheOldOneOnBothSides)
+{
+    CtrTextEdit other{page, {.Name = "other", .Tag = "ctr_other"}};
+    editor.setParameterPair(&other, "max", 2);
+    EXPECT_EQ(editor.pairMaxPartner(), &other);
+    EXPECT_EQ(other.pairMinPartner(), &editor);
+    EXPECT_EQ(high.pairMinPartner(), nullptr);
+}
+
+TEST_F(PairTest, TheSamePartnerAgainOnlyTakesTheNewDistance)
+{
+    editor.setParameterPair(&high, "max", 4);
+    EXPECT_EQ(editor.pairDifferenceMax(), 4);
+    EXPECT_EQ(high.pairDifferenceMin(), 1);
+}
+
+TEST_F(PairTest, UnsetLetsGoOnBothSides)
+{
+    editor.unsetParameterPair("min");
+    EXPECT_EQ(editor.pairMaxPartner(), &high);
+    editor.unsetParameterPair();
+    EXPECT_EQ(editor.pairMaxPartner(), nullptr);
+    EXPECT_EQ(high.pairMinPartner(), nullptr);
+}
+
+TEST_F(PairTest, APartnerThatDiesLetsGo)
+{
+    {
+        CtrTextEdit other{page, {.Name = "other", .Tag = "ctr_other"}};
+        editor.setParameterPair(&other, "min", 0);
+        EXPECT_EQ(editor.pairMinPartner(), &other);
+    }
+    EXPECT_EQ(editor.pairMinPartner(), nullptr);
+    type("4");
+    EXPECT_TRUE(editor.Correct());
+}
+
+TEST_F(PairTest, NothingAsPartnerIsReported)
+{
+    editor.setParameterPair(nullptr, "max", 1);
+    EXPECT_EQ(editor.pairMaxPartner(), nullptr);
+    EXPECT_THAT(messenger.errors(),
+                ElementsAre(HasSubstr("TextEdit ctr_travel setParameterPair, 91")));
+}
+
+} // namespace
+} // namespace quill::test
