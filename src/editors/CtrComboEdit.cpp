@@ -3,7 +3,6 @@
 #include "framework/documents.h"
 #include "framework/modTools.h"
 #include "framework/values.h"
-#include "platform/failure.h"
 
 #include <algorithm>
 #include <utility>
@@ -84,15 +83,6 @@ void CtrComboEdit::arrange()
     lblInfo.Height = Height.get();
 }
 
-Translator& CtrComboEdit::translator() const
-{
-    Translator* const translator = host().GetTranslator();
-    if (translator == nullptr) {
-        throw platform::failure(platform::kObjectNotSet);
-    }
-    return *translator;
-}
-
 // --- The list ---------------------------------------------------------------------------------
 
 void CtrComboEdit::SetMappings(const IXMLDOMNode& mappedParam)
@@ -150,7 +140,7 @@ void CtrComboEdit::Localize(Translator& translator)
 void CtrComboEdit::RefreshItemList()
 {
     const Steps step = steps("RefreshItemList");
-    fillList(step, step.value<Translator*>(nullptr, [&] { return &translator(); }));
+    fillList(step, step.value<Translator*>(nullptr, [&] { return &existing(host().GetTranslator()); }));
 }
 
 void CtrComboEdit::SetItemVisibility(const std::string& key, bool visibility)
@@ -180,13 +170,6 @@ void CtrComboEdit::SetItemVisibilityAll(bool visibility)
 std::int16_t CtrComboEdit::GetIndex(const std::string& value) const
 {
     const Steps step = steps("GetIndex");
-    if (!mMappings) {
-        step([&] {
-            host().WriteLog(kLogConfiguration, "Error: Combo " + Tag.get() +
-                                                   " GetIndex has no mappings. Check Datafile.");
-        });
-        return kNoRow;
-    }
     std::string text = value;
     if (mValueType == "floatVal") {
         step([&] {
@@ -195,6 +178,13 @@ std::int16_t CtrComboEdit::GetIndex(const std::string& value) const
                 text = std::to_string(values::toInt32(values::parseLocal(local)));
             }
         });
+    }
+    if (!mMappings) {
+        step([&] {
+            host().WriteLog(kLogConfiguration, "Error: Combo " + Tag.get() +
+                                                   " GetIndex has no mappings. Check Datafile.");
+        });
+        return kNoRow;
     }
     for (const IXMLDOMNode& entry : *mMappings) {
         if (read(step, entry, "value") == text || read(step, entry, "name") == text) {
@@ -256,12 +246,16 @@ void CtrComboEdit::setText(const std::string& text)
 
 // --- Values from documents --------------------------------------------------------------------
 
+void CtrComboEdit::showRow(const Steps& step, std::int32_t row)
+{
+    step([&] { cboBox.setListIndex(row); });
+    step([&] { Change.raise(GetComboText(row)); });
+}
+
 void CtrComboEdit::showValue(const Steps& step, const std::string& value)
 {
-    const std::int32_t row = rowOf(value);
-    step([&] { cboBox.setListIndex(row); });
-    mSelectedIndex = row;
-    step([&] { Change.raise(GetComboText(row)); });
+    mSelectedIndex = rowOf(value);
+    showRow(step, mSelectedIndex);
 }
 
 void CtrComboEdit::setWritable(bool writable)
@@ -313,7 +307,8 @@ bool CtrComboEdit::setImportData(const IXMLDOMNode& parameter)
         return false;
     }
     const Steps step = steps("setImportData");
-    showValue(step, read(step, parameter, "value"));
+    // An edit: the row that a choice is compared with is still the one before the import.
+    showRow(step, rowOf(read(step, parameter, "value")));
     SetModifiedForward(true);
     return true;
 }
@@ -375,9 +370,11 @@ void CtrComboEdit::lblInfo_Click()
 {
     const Steps       step    = steps("lblInfo_Click");
     const std::string key     = mInfoTag + "_" + GetComboText(cboBox.ListIndex());
-    const std::string label   = step.text([&] { return translator().TranslateTag(Tag); });
-    const std::string heading = step.text([&] { return translator().Translate(mInfoTag); });
-    const std::string help    = step.text([&] { return translator().Translate(key); });
+    auto* const       texts   =
+        step.value<Translator*>(nullptr, [&] { return host().GetTranslator(); });
+    const std::string label   = step.text([&] { return existing(texts).TranslateTag(Tag); });
+    const std::string heading = step.text([&] { return existing(texts).Translate(mInfoTag); });
+    const std::string help    = step.text([&] { return existing(texts).Translate(key); });
     step([&] { host().WriteLog(kLogUserInformation, "CtrComboEdit info from " + mInfoTag); });
     step([&] { host().WriteLog(kLogUserInformation, key); });
 

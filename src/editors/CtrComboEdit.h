@@ -98,8 +98,6 @@ private:
     void cboBox_Click();
     void lblInfo_Click();
 
-    /// The host's Translator; failure 91 if there is none.
-    [[nodiscard]] Translator& translator() const;
     /// Gives every visible entry its row, hidden ones none; entries are shown by name without a
     /// Translator.
     void fillList(const Steps& step, Translator* translator);
@@ -109,7 +107,9 @@ private:
     [[nodiscard]] std::string chosenValue(const Steps& step) const;
     /// The row for a value, where an entry that is hidden counts as none.
     [[nodiscard]] std::int32_t rowOf(const std::string& value) const;
-    /// Shows a value that came from outside.
+    /// Shows what came from outside and tells it.
+    void showRow(const Steps& step, std::int32_t row);
+    /// The same for a value that later choices are compared with.
     void showValue(const Steps& step, const std::string& value);
     void setWritable(bool writable);
 

@@ -162,6 +162,21 @@ void CtrDateEdit::takeLimits(const Steps& step, const IXMLDOMNode& parameter)
     }
 }
 
+/// A parameter that says nothing of its access leaves the editor as it is.
+void CtrDateEdit::takeAccess(const Steps& step, const IXMLDOMNode& parameter)
+{
+    step([&] {
+        const IXMLDOMNode access = platform::attributeNode(parameter, "access");
+        if (!access) {
+            return;
+        }
+        const bool writable  = isWritable(access.get_text());
+        datePicker.BackColor = writable ? editorColors::kWhite : editorColors::kGrey;
+        datePicker.Locked    = !writable;
+        mSilent              = mSilent || !writable;
+    });
+}
+
 bool CtrDateEdit::setOfflineData(const IXMLDOMNode& parameter)
 {
     if (!parameter) {
@@ -181,6 +196,7 @@ bool CtrDateEdit::setOfflineData(const IXMLDOMNode& parameter)
     } else {
         SetModifiedForward(true);
     }
+    takeAccess(step, parameter);
     step([&] { Change.raise(Text()); });
     return true;
 }

@@ -60,6 +60,7 @@ protected:
     [[nodiscard]] const char*             word() const override { return "CtrDateEdit"; }
     [[nodiscard]] platform::Widget&       box() override { return datePicker; }
     [[nodiscard]] const platform::Widget& box() const override { return datePicker; }
+    [[nodiscard]] bool isLocked() const override { return datePicker.Locked; }
     void                                  keepOriginal() override;
     void                                  ViewGetChanges(std::int16_t scope) override;
 
@@ -73,6 +74,7 @@ private:
     [[nodiscard]] platform::DateTime getDate(const std::string& text) const;
     void                             showText(const Steps& step, const std::string& text);
     void                             takeLimits(const Steps& step, const IXMLDOMNode& parameter);
+    void                             takeAccess(const Steps& step, const IXMLDOMNode& parameter);
 
     std::optional<platform::DateTime> mOriginalDate;
     /// What the picker showed when the editor became empty.

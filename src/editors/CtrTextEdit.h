@@ -130,15 +130,19 @@ private:
     /// Nothing without a converter or where it knows no way. Single precision.
     [[nodiscard]] std::optional<float>
     convert(const Steps& step, double value, const std::string& from, const std::string& to) const;
-    [[nodiscard]] double compareValueOf(const Steps& step, double value) const;
-    [[nodiscard]] bool   isInside(double value, double lower, double upper) const;
-    [[nodiscard]] bool   hasConvertibleUnit() const;
-    [[nodiscard]] bool   hasLimitMin() const;
-    [[nodiscard]] bool   hasLimitMax() const;
-    void                 readFormat(const Steps& step, const IXMLDOMNode& parameter);
-    void                 readLimits(const Steps& step, const IXMLDOMNode& parameter);
-    void                 showLimits();
-    void                 showLimitsIn(const Steps& step, const std::string& unit);
+    /// The same for a text that is a number; nothing, with a report, for one too large.
+    [[nodiscard]] std::optional<float> convert(const Steps& step, const std::string& number,
+                                               const std::string& from,
+                                               const std::string& to) const;
+    [[nodiscard]] double               compareValueOf(const Steps& step, double value) const;
+    [[nodiscard]] bool                 isInside(double value, double lower, double upper) const;
+    [[nodiscard]] bool                 hasConvertibleUnit() const;
+    [[nodiscard]] bool                 hasLimitMin() const;
+    [[nodiscard]] bool                 hasLimitMax() const;
+    void                               readFormat(const Steps& step, const IXMLDOMNode& parameter);
+    void                               readLimits(const Steps& step, const IXMLDOMNode& parameter);
+    void                               showLimits();
+    void                               showLimitsIn(const Steps& step, const std::string& unit);
     /// An item's text in the visible unit; the visible unit follows where it cannot be converted.
     [[nodiscard]] std::string inVisibleUnit(const Steps& step, const IXMLDOMNode& item,
                                             const std::string& text, bool isLocal);

@@ -200,8 +200,7 @@ bool CtrTextEdit::setImportData(const IXMLDOMNode& parameter)
         const std::string visible = visibleUnit();
         if (visible != kNoUnit && hasConvertibleUnit() && converter(step) != nullptr) {
             if (mMessageUnit != visible && values::isNumeric(value)) {
-                const auto converted =
-                    convert(step, values::parseLocal(value), mMessageUnit, visible);
+                const auto converted = convert(step, value, mMessageUnit, visible);
                 if (converted) {
                     value = values::numberText(*converted);
                 } else {

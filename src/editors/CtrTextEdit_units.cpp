@@ -57,6 +57,15 @@ std::optional<float> CtrTextEdit::convert(const Steps& step, double value, const
                       [&] { return units->ConvertValue(static_cast<float>(value), from, to); });
 }
 
+std::optional<float> CtrTextEdit::convert(const Steps& step, const std::string& number,
+                                          const std::string& from, const std::string& to) const
+{
+    // A text can be a number and yet be too large for one.
+    double value = 0;
+    return step([&] { value = values::parseLocal(number); }) ? convert(step, value, from, to)
+                                                             : std::nullopt;
+}
+
 double CtrTextEdit::compareValueOf(const Steps& step, double value) const
 {
     const std::string visible = visibleUnit();
@@ -163,7 +172,7 @@ std::string CtrTextEdit::toDisplayUnit(const Steps& step, const IXMLDOMNode& par
     }
     if (display != mMessageUnit) {
         if (values::isNumeric(text)) {
-            const auto converted = convert(step, values::parseLocal(text), mMessageUnit, display);
+            const auto converted = convert(step, text, mMessageUnit, display);
             if (converted) {
                 result = values::numberText(*converted);
             } else {
@@ -204,8 +213,7 @@ void CtrTextEdit::ViewSetUnits()
     if (visible != unit) {
         if (!values::isNumeric(txtBox.Text)) {
             setVisibleUnit(unit);
-        } else if (const auto converted =
-                       convert(step, values::parseLocal(txtBox.Text), visible, unit)) {
+        } else if (const auto converted = convert(step, txtBox.Text.get(), visible, unit)) {
             setVisibleUnit(unit);
             const bool        wasModified = Modified();
             const std::string original    = mOriginalText;
@@ -215,8 +223,7 @@ void CtrTextEdit::ViewSetUnits()
                 setModified(wasModified);
                 mOriginalText = original;
                 if (values::isNumeric(original)) {
-                    if (const auto old =
-                            convert(step, values::parseLocal(original), visible, unit)) {
+                    if (const auto old = convert(step, original, visible, unit)) {
                         mOriginalText =
                             values::formatNumber(static_cast<double>(*old), mNumberFormat);
                     }

@@ -2,7 +2,6 @@
 #include "framework/modView.h"
 #include "framework/modView_walk.h"
 #include "framework/values.h"
-#include "platform/failure.h"
 
 #include <algorithm>
 #include <initializer_list>
@@ -99,14 +98,10 @@ void tellEditors(const Steps& step, const platform::WidgetList& controls, Respon
 void showResponseError(const Steps& step, Messenger* messenger, const std::string& code,
                        const std::vector<std::string>& itemNames)
 {
+    auto* const translator = step.value<Translator*>(
+        nullptr, [&] { return existing(messenger).GetTranslator(); });
     const auto translate = [&](const std::string& key) {
-        return step.text([&] {
-            Translator* translator = existing(messenger).GetTranslator();
-            if (translator == nullptr) {
-                throw platform::failure(platform::kObjectNotSet);
-            }
-            return translator->Translate(key);
-        });
+        return step.text([&] { return existing(translator).Translate(key); });
     };
     std::string text = translate(code);
     if (text.empty() && itemNames.empty()) {

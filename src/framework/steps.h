@@ -86,13 +86,15 @@ private:
     return Steps{Steps::Outlet{}};
 }
 
-/// The Messenger itself; failure 91 while there is none. For use inside a step.
-[[nodiscard]] inline Messenger& existing(Messenger* messenger)
+/// The object itself, a Messenger or one of its services; failure 91 while there is none. For use
+/// inside a step.
+template <class T>
+[[nodiscard]] T& existing(T* object)
 {
-    if (messenger == nullptr) {
+    if (object == nullptr) {
         throw platform::failure(platform::kObjectNotSet);
     }
-    return *messenger;
+    return *object;
 }
 
 } // namespace quill

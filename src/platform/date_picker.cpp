@@ -36,6 +36,7 @@ void DatePicker::visit(PropertyVisitor& visitor)
 {
     Widget::visit(visitor);
     visitor.visit("Format", Format);
+    visitor.visit("Locked", Locked);
     visitor.visit(
         "Value", [this] { return PropertyValue{toIso(Value())}; },
         isoSetter(*this, &DatePicker::setValue, &DatePicker::Value));
@@ -91,7 +92,7 @@ UserDoor DatePicker::pick(const std::string& iso)
 
 UserDoor DatePicker::pick(const DateTime& value)
 {
-    if (!acceptsUser() || !allows(value)) {
+    if (!acceptsUser() || Locked || !allows(value)) {
         return UserDoor::refused;
     }
     if (value != mValue) {

@@ -16,6 +16,7 @@ public:
 
     /// A `PickerFormat` as its number.
     Property<std::int32_t> Format{*this, 1};
+    Property<bool>         Locked{*this};
     /// The user has picked another value.
     Event<> Change;
 
@@ -32,7 +33,8 @@ public:
     void setMinDate(const DateTime& value);
     void setMaxDate(const DateTime& value);
 
-    /// User's door: an ISO date, time or both; what is left out stays. Refused outside the limits.
+    /// User's door: an ISO date, time or both; what is left out stays. Refused outside the limits
+    /// and while the picker is locked.
     UserDoor pick(const std::string& iso);
     UserDoor pick(const DateTime& value);
 

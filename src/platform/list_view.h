@@ -5,19 +5,19 @@
 namespace quill::platform {
 
 struct ColumnHeader {
-    std::string  Text;
-    std::string  Tag;
+    std::string  Text  = {};
+    std::string  Tag   = {};
     std::int32_t Width = 0; ///< twips
 };
 
 struct ListItem {
-    std::string              Text;
-    std::vector<std::string> SubItems;
-    std::string              Key;
-    std::string              Tag;
-    bool                     Checked  = false;
-    bool                     Selected = false;
-    std::string              ToolTipText;
+    std::string              Text        = {};
+    std::vector<std::string> SubItems    = {};
+    std::string              Key         = {};
+    std::string              Tag         = {};
+    bool                     Checked     = false;
+    bool                     Selected    = false;
+    std::string              ToolTipText = {};
 };
 
 /// A list of rows with columns, check marks and a selection. Rows count from 1, as do columns; a

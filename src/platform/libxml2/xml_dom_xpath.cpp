@@ -86,6 +86,10 @@ private:
     xmlNode* mTop          = nullptr;
 };
 
+/// Most operations of one evaluation, well below a second's work: an expression that walks the
+/// document over and over for each of its nodes fails instead of keeping the screen waiting.
+constexpr unsigned long kMaxOperations = 100'000'000;
+
 /// One XPath context serves all documents of the thread; making one costs more than most
 /// evaluations.
 class Selector {
@@ -96,6 +100,7 @@ public:
             throw std::bad_alloc();
         }
         xmlXPathContextSetCache(mContext.get(), 1, -1, 0);
+        mContext->opLimit = kMaxOperations;
     }
 
     std::vector<xmlNode*> select(DocumentState& state, xmlNode* from, std::string_view expression)
@@ -108,6 +113,7 @@ public:
         mContext->namespaces = state.selection.data();
         mContext->nsNr       = static_cast<int>(state.selection.size());
         mContext->depth      = 0;
+        mContext->opCount    = 0;
         const std::unique_ptr<xmlXPathObject, ResultDeleter> result{
             xmlXPathCompiledEval(compiled, mContext.get())};
         mContext->doc        = nullptr;
