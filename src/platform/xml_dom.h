@@ -58,8 +58,9 @@ public:
 
     /// The first node in document order that the XPath expression selects from here, or nothing.
     /// Prefixes are those of the document's "SelectionNamespaces". A malformed expression, an
-    /// unknown prefix and an expression that selects no nodes but a value are a failure 5. In a
-    /// tree without a document around it, "/" and "//" mean that tree.
+    /// unknown prefix and an expression that selects no nodes but a value are a failure 5. So is
+    /// one that searches the whole tree in more than three steps. In a tree without a document
+    /// around it, "/" and "//" mean that tree.
     [[nodiscard]] IXMLDOMNode     selectSingleNode(std::string_view expression) const;
     [[nodiscard]] IXMLDOMNodeList selectNodes(std::string_view expression) const;
 

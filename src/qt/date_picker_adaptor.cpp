@@ -42,6 +42,7 @@ public:
         Adaptor::update();
         showColors(QPalette::Text, QPalette::Base);
         const QSignalBlocker quiet(shown());
+        shown()->setReadOnly(kind().Locked);
         const bool           time = format() == platform::PickerFormat::time;
         if (const QString pattern = displayFormat(); shown()->displayFormat() != pattern) {
             shown()->setDisplayFormat(pattern);

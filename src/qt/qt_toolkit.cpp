@@ -17,6 +17,7 @@
 #include <QKeyEvent>
 #include <QLocale>
 #include <QMenu>
+#include <QtMath>
 
 #include <set>
 
@@ -111,7 +112,9 @@ void QtToolkit::setLocale(const platform::Locale& locale)
 
 std::int32_t QtToolkit::textWidth(const std::string& text)
 {
-    return toTwips(QFontMetrics(QApplication::font()).horizontalAdvance(toQt(text)));
+    // Rounded up: a label that is given this width is not to lose a part of its last letter.
+    return toTwips(
+        qCeil(QFontMetricsF(QApplication::font()).horizontalAdvance(toQt(text))));
 }
 
 platform::DateTime QtToolkit::now()

@@ -576,6 +576,15 @@ TEST(XmlDomXPath, AnExpressionThatSelectsNoNodesIsAFailure)
               kInvalidCall);
 }
 
+TEST(XmlDomXPath, AnExpressionThatSearchesOverAndOverIsRefused)
+{
+    const auto document = opened("<r>" + repeated("<a>", 200) + repeated("</a>", 200) + "</r>");
+    EXPECT_EQ(document.selectNodes("//a//a").get_length(), 199);
+    EXPECT_EQ(document.selectNodes("//a[@k = '////////']").get_length(), 0);
+    EXPECT_THROW((void)document.selectNodes("//*//*//*//*"), Failure);
+    EXPECT_THROW((void)document.selectNodes("/descendant::*/ancestor::*//*//*"), Failure);
+}
+
 TEST(XmlDomXPath, HostileExpressionsDoNotCrash)
 {
     const auto document = opened("<a k='v'><b/></a>");

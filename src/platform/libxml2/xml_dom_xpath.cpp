@@ -3,6 +3,8 @@
 #include "platform/libxml2/document_state.h"
 #include "platform/libxml2/error_trap.h"
 
+#include <algorithm>
+
 #include <map>
 #include <new>
 
@@ -90,6 +92,28 @@ private:
 /// document over and over for each of its nodes fails instead of keeping the screen waiting.
 constexpr unsigned long kMaxOperations = 100'000'000;
 
+/// Steps of one expression that search the whole tree. The engine keeps what it finds more than
+/// once until the end, so that each further one multiplies the work by the depth of the document.
+constexpr int kMaxSearches = 3;
+
+int countSearches(std::string_view expression)
+{
+    constexpr std::string_view kSearches[] = {"//", "descendant", "ancestor", "following",
+                                              "preceding"};
+    int                        count       = 0;
+    for (std::size_t at = 0; at < expression.size(); ++at) {
+        const char c = expression[at];
+        if (c == '"' || c == '\'') {
+            at = std::min(expression.find(c, at + 1), expression.size());
+            continue;
+        }
+        for (const auto& search : kSearches) {
+            count += expression.substr(at).starts_with(search) ? 1 : 0;
+        }
+    }
+    return count;
+}
+
 /// One XPath context serves all documents of the thread; making one costs more than most
 /// evaluations.
 class Selector {
@@ -105,7 +129,11 @@ public:
 
     std::vector<xmlNode*> select(DocumentState& state, xmlNode* from, std::string_view expression)
     {
-        const ErrorTrap   trap;
+        const ErrorTrap trap;
+        if (countSearches(expression) > kMaxSearches) {
+            refuse("The expression searches the whole document more than " +
+                   std::to_string(kMaxSearches) + " times.");
+        }
         xmlXPathCompExpr* compiled = compile(expression, trap);
         TreeRoot          tree{state, from};
         mContext->doc        = tree.document();

@@ -1,0 +1,140 @@
+#include "editors/CtrComboEdit.h"
+#include "editors/CtrDateEdit.h"
+#include "editors/CtrDateLabel.h"
+#include "editors/CtrFocusTransfer.h"
+#include "editors/CtrTBLaunchedPanel.h"
+#include "editors/CtrTextEdit.h"
+#include "probe/binding.h"
+
+namespace quill::probe {
+
+namespace {
+
+void registerEditorBase(std::vector<ClassEntry>& classes)
+{
+    using E = EditorBase;
+    Class<E>{"EditorBase"}
+        .property("Correct", &E::Correct, &E::setCorrect)
+        .property("Enabled", &E::Enabled, &E::setEnabled)
+        .property("Modified", &E::Modified, &E::setModified)
+        .property("SignBackColor", &E::SignBackColor, &E::setSignBackColor)
+        .property("Silent", &E::Silent, &E::setSilent)
+        .method("SetModifiedForward", &E::SetModifiedForward)
+        .method("IsInitialized", &E::IsInitialized)
+        .state("dataNode", &E::dataNode)
+        .state("contextTag", &E::ContextTag)
+        .state("labelText", &E::labelText)
+        .state("valueType", &E::valueType)
+        .state("hasSynced", &E::hasSynced)
+        .state("silent", &E::Silent)
+        .state("changeState", &E::changeState)
+        .state("syncState", &E::syncState)
+        .into(classes);
+}
+
+void registerTextEdit(std::vector<ClassEntry>& classes)
+{
+    using C = CtrTextEdit;
+    Class<C>{"CtrTextEdit"}
+        .creatable()
+        .property("Locked", &C::Locked, &C::setLocked)
+        .property("Text", &C::Text, &C::setText)
+        .property("Unit", &C::Unit, &C::setUnit)
+        .method("EditText", &C::EditText)
+        .method("getXmlItem", &C::getXmlItem)
+        .method("setMessenger", &C::setMessenger)
+        .method("ForceHartPackedAscii", &C::ForceHartPackedAscii)
+        .method("Uninitialize", &C::Uninitialize)
+        .method("setPairLimit", &C::setPairLimit)
+        .method("setParameterPair", &C::setParameterPair)
+        .method("unsetParameterPair", &C::unsetParameterPair, {.defaults = {""}, .outs = {}})
+        .method("downloadable", &C::downloadable)
+        .method("dblAComparedToB", &C::dblAComparedToB)
+        .method("FormatForCommunication", &C::FormatForCommunication)
+        .method("setVisibleUnit", &C::setVisibleUnit)
+        .state("originalText", &C::originalText)
+        .state("decimalCount", &C::decimalCount)
+        .state("limitMax", &C::limitMax)
+        .state("limitMin", &C::limitMin)
+        .state("messageUnit", &C::messageUnit)
+        .state("decimalSeparator", &C::decimalSeparator)
+        .state("numberFormat", &C::numberFormat)
+        .state("allowEmpty", &C::allowEmpty)
+        .state("packedAscii", &C::packedAscii)
+        .state("accessText", &C::accessText)
+        .state("pairMinPartner", &C::pairMinPartner)
+        .state("pairMaxPartner", &C::pairMaxPartner)
+        .state("pairDifferenceMin", &C::pairDifferenceMin)
+        .state("pairDifferenceMax", &C::pairDifferenceMax)
+        .state("pairUpperLimit", &C::pairUpperLimit)
+        .state("pairLowerLimit", &C::pairLowerLimit)
+        .event("Change", &C::Change)
+        .into(classes);
+}
+
+void registerComboEdit(std::vector<ClassEntry>& classes)
+{
+    using C = CtrComboEdit;
+    Class<C>{"CtrComboEdit"}
+        .creatable()
+        .property("Locked", &C::Locked, &C::setLocked)
+        .property("SilentAlltoghether", &C::SilentAlltoghether, &C::setSilentAlltoghether)
+        .property("Text", &C::Text, &C::setText)
+        .method("RefreshItemList", &C::RefreshItemList)
+        .method("SetItemVisibility", &C::SetItemVisibility)
+        .method("SetItemVisibilityAll", &C::SetItemVisibilityAll)
+        .method("HasMappings", &C::HasMappings)
+        .method("ShowInfo", &C::ShowInfo, {.defaults = {""}, .outs = {}})
+        .method("getSelectedValue", &C::getSelectedValue)
+        .method("downloadable", &C::downloadable)
+        .method("GetIndex", &C::GetIndex)
+        .method("GetComboText", &C::GetComboText)
+        .state("mappings", &C::mappings)
+        .state("selectedIndex", &C::selectedIndex)
+        .state("originalText", &C::originalText)
+        .state("infoTag", &C::infoTag)
+        .event("Change", &C::Change)
+        .event("Modified", &C::ModifiedEvent)
+        .into(classes);
+}
+
+void registerDateEdit(std::vector<ClassEntry>& classes)
+{
+    using C = CtrDateEdit;
+    Class<C>{"CtrDateEdit"}
+        .creatable()
+        .property("Text", &C::Text, &C::setText)
+        .method("SetPickerFormat", &C::SetPickerFormat)
+        .state("timeMode", &C::timeMode)
+        .state("originalDate", &C::originalDate)
+        .event("Change", &C::Change)
+        .into(classes);
+    Class<CtrDateLabel>{"CtrDateLabel"}.creatable().into(classes);
+}
+
+void registerVisuals(std::vector<ClassEntry>& classes)
+{
+    Class<CtrFocusTransfer>{"CtrFocusTransfer"}
+        .creatable()
+        .method("setDesignMode", &CtrFocusTransfer::setDesignMode)
+        .into(classes);
+    Class<CtrTBLaunchedPanel>{"CtrTBLaunchedPanel"}
+        .creatable()
+        .method("DrawColorSlide", &CtrTBLaunchedPanel::DrawColorSlide)
+        .method("DrawCustomFrame", &CtrTBLaunchedPanel::DrawCustomFrame)
+        .into(classes);
+}
+
+} // namespace
+
+void registerEditors(std::vector<ClassEntry>& classes)
+{
+    registerTextEdit(classes);
+    registerComboEdit(classes);
+    registerDateEdit(classes);
+    registerVisuals(classes);
+    // What all editors share; a class that tells a member itself comes first.
+    registerEditorBase(classes);
+}
+
+} // namespace quill::probe
