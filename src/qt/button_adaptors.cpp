@@ -3,11 +3,13 @@
 #include "qt/text.h"
 
 #include <QCheckBox>
+#include <QKeyEvent>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <vector>
 
 namespace quill::qt {
 
@@ -179,9 +181,9 @@ public:
     OptionAdaptor(Screen& screen, platform::OptionButton& model, QRadioButton* button)
         : ButtonAdaptor(screen, model, button)
     {
-        // With this Qt moves among the options by the arrow keys; the mark itself follows the
-        // model.
-        button->setAutoExclusive(true);
+        // Qt would count the options of inner frames into the group, so the mark and the arrow
+        // keys go by the model alone.
+        button->setAutoExclusive(false);
     }
 
     [[nodiscard]] Fit fit() const override
@@ -192,15 +194,34 @@ public:
     }
 
 protected:
-    void showValue() override
+    void showValue() override { shown()->setChecked(kind().Value); }
+
+    bool unclaimedKey(const QKeyEvent& event) override
     {
-        if (shown()->isChecked() != kind().Value) {
-            // An exclusive button refuses to be the one that loses the mark.
-            shown()->setAutoExclusive(false);
-            shown()->setChecked(kind().Value);
-            shown()->setAutoExclusive(true);
+        const bool back = event.key() == Qt::Key_Up || event.key() == Qt::Key_Left;
+        if (!back && event.key() != Qt::Key_Down && event.key() != Qt::Key_Right) {
+            return false;
         }
+        std::vector<platform::OptionButton*> group;
+        if (kind().Owner() != nullptr) {
+            for (platform::Widget* widget : kind().Owner()->Widgets()) {
+                auto* const option = dynamic_cast<platform::OptionButton*>(widget);
+                if (option != nullptr && option->Container() == kind().Container() &&
+                    option->acceptsUser()) {
+                    group.push_back(option);
+                }
+            }
+        }
+        const auto own = std::find(group.begin(), group.end(), &kind());
+        if (own == group.end() || group.size() < 2) {
+            return true;
+        }
+        const auto place = static_cast<std::size_t>(own - group.begin());
+        const auto step  = back ? group.size() - 1 : 1;
+        byUser([&] { group[(place + step) % group.size()]->click(); });
+        return true;
     }
+
     [[nodiscard]] int textRoom() const override { return shown()->width() - besideText(*shown()); }
     [[nodiscard]] QPalette::ColorRole textRole() const override { return QPalette::WindowText; }
     [[nodiscard]] QPalette::ColorRole groundRole() const override { return checkGround(kind()); }

@@ -43,7 +43,7 @@ public:
         showColors(QPalette::Text, QPalette::Base);
         const QSignalBlocker quiet(shown());
         shown()->setReadOnly(kind().Locked);
-        const bool           time = format() == platform::PickerFormat::time;
+        const bool time = format() == platform::PickerFormat::time;
         if (const QString pattern = displayFormat(); shown()->displayFormat() != pattern) {
             shown()->setDisplayFormat(pattern);
         }

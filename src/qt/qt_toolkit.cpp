@@ -113,8 +113,7 @@ void QtToolkit::setLocale(const platform::Locale& locale)
 std::int32_t QtToolkit::textWidth(const std::string& text)
 {
     // Rounded up: a label that is given this width is not to lose a part of its last letter.
-    return toTwips(
-        qCeil(QFontMetricsF(QApplication::font()).horizontalAdvance(toQt(text))));
+    return toTwips(qCeil(QFontMetricsF(QApplication::font()).horizontalAdvance(toQt(text))));
 }
 
 platform::DateTime QtToolkit::now()
