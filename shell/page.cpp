@@ -1,0 +1,345 @@
+#include "shell/page.h"
+
+#include "editors/CtrComboEdit.h"
+#include "editors/CtrDateEdit.h"
+#include "editors/CtrTextEdit.h"
+#include "platform/toolkit.h"
+
+#include <algorithm>
+
+namespace quill::shell {
+
+namespace {
+
+// Lengths in twips.
+constexpr std::int32_t kMargin       = 240; ///< around a section and inside it
+constexpr std::int32_t kTitleHeight  = 585; ///< of a section, with the time of last read
+constexpr std::int32_t kRowHeight    = 390;
+constexpr std::int32_t kRowPitch     = 480;
+constexpr std::int32_t kTextTop      = 60; ///< of a label in its row
+constexpr std::int32_t kTextHeight   = 270;
+constexpr std::int32_t kGap          = 180;
+constexpr std::int32_t kBoxWidth     = 2400;
+constexpr std::int32_t kWideBox      = 3900; ///< for long texts
+constexpr std::int32_t kLongText     = 20;   ///< characters
+constexpr std::int32_t kArrowWidth   = 600;  ///< of a drop-down list
+constexpr std::int32_t kSignsWidth   = 400;  ///< right of a box, with their gap
+constexpr std::int32_t kUnitRoom     = 900;
+constexpr std::int32_t kButtonMargin = 420;
+
+std::int32_t textWidth(const std::string& text)
+{
+    return platform::Toolkit::current().textWidth(text);
+}
+
+/// Width of the box that suits what the editor can hold.
+std::int32_t boxWidth(const EditorBase& editor)
+{
+    if (const auto* combo = dynamic_cast<const CtrComboEdit*>(&editor)) {
+        std::int32_t width = kBoxWidth;
+        for (const auto& entry : combo->cboBox.List()) {
+            width = std::max(width, textWidth(entry) + kArrowWidth);
+        }
+        return width;
+    }
+    if (const auto* text = dynamic_cast<const CtrTextEdit*>(&editor)) {
+        const bool isLong =
+            text->txtBox.MaxLength > kLongText || textWidth(text->Text()) > kBoxWidth - kGap;
+        return isLong ? kWideBox : kBoxWidth;
+    }
+    return kBoxWidth;
+}
+
+std::int32_t unitWidth(const EditorBase& editor)
+{
+    const auto* text = dynamic_cast<const CtrTextEdit*>(&editor);
+    return text != nullptr ? textWidth(text->Unit()) : 0;
+}
+
+std::unique_ptr<EditorBase> makeEditor(platform::Frame& frame, const PageRow& row)
+{
+    const platform::Design design{
+        .Name = row.parameter, .Tag = "ctr_" + row.parameter, .Height = kRowHeight};
+    switch (row.kind) {
+    case PageRow::Kind::combo: return std::make_unique<CtrComboEdit>(frame, design);
+    case PageRow::Kind::text: return std::make_unique<CtrTextEdit>(frame, design);
+    case PageRow::Kind::date:
+    case PageRow::Kind::time: break;
+    }
+    auto editor = std::make_unique<CtrDateEdit>(frame, design);
+    editor->SetPickerFormat(static_cast<std::int32_t>(row.kind == PageRow::Kind::time
+                                                          ? platform::PickerFormat::time
+                                                          : platform::PickerFormat::shortDate));
+    return editor;
+}
+
+} // namespace
+
+struct Page::Row {
+    Row(platform::Frame& section, const PageRow& row)
+        : parameter(row.parameter),
+          label(section, {.Name = "lbl_" + row.parameter, .Tag = "ctr_" + row.parameter}),
+          frame(section, {.Name = "frm_" + row.parameter, .Tag = row.parameter}),
+          editor(makeEditor(frame, row))
+    {
+    }
+
+    std::string                 parameter;
+    platform::Label             label;
+    platform::Frame             frame;
+    std::unique_ptr<EditorBase> editor;
+};
+
+struct Page::Section {
+    Section(Page& page, const PageSection& description)
+        : title(description.title), group(description.group),
+          frame(page, {.Name = "section_" + description.title, .Tag = description.title})
+    {
+    }
+
+    std::string                              title;
+    std::string                              group;
+    platform::Frame                          frame;
+    std::vector<std::unique_ptr<Row>>        rows;
+    std::unique_ptr<platform::Label>         lblRead;
+    std::unique_ptr<CtrDateLabel>            date;
+    std::unique_ptr<platform::CommandButton> cmdRead;
+    platform::Subscription                   onRead;
+};
+
+Page::Page(platform::Widget& container, const PageDescription& description)
+    : ViewBase(container, {.Name = description.tag, .Tag = description.tag}),
+      mDescription(description)
+{
+    for (const auto& section : mDescription.sections) {
+        addSection(section);
+    }
+}
+
+Page::~Page() = default;
+
+void Page::addSection(const PageSection& description)
+{
+    auto& section = *mSections.emplace_back(std::make_unique<Section>(*this, description));
+    for (const auto& row : description.rows) {
+        addRow(section, row);
+    }
+    if (!section.group.empty()) {
+        addReading(section);
+    }
+}
+
+void Page::addRow(Section& section, const PageRow& row)
+{
+    section.rows.push_back(std::make_unique<Row>(section.frame, row));
+}
+
+void Page::addReading(Section& section)
+{
+    const std::string& group = section.group;
+    section.lblRead          = std::make_unique<platform::Label>(
+        section.frame, platform::Design{.Name = "lblRead_" + group, .Tag = "shell_lastRead"});
+    section.date = std::make_unique<CtrDateLabel>(
+        section.frame,
+        platform::Design{.Name = "date_" + group, .Tag = "date_" + group, .Height = kTextHeight});
+    section.cmdRead = std::make_unique<platform::CommandButton>(
+        section.frame,
+        platform::Design{.Name = "cmdRead_" + group, .Tag = "shell_readSection", .Enabled = false});
+    section.onRead = section.cmdRead->Click.subscribe([this, group] {
+        if (Messenger* messenger = GetMessenger()) {
+            messenger->ExecuteNamedRequest(group, "reading", 0, 0);
+        }
+    });
+}
+
+Page::Row* Page::row(const std::string& parameter) const
+{
+    for (const auto& section : mSections) {
+        for (const auto& row : section->rows) {
+            if (row->parameter == parameter) {
+                return row.get();
+            }
+        }
+    }
+    return nullptr;
+}
+
+EditorBase* Page::find(const std::string& parameter) const
+{
+    Row* const found = row(parameter);
+    return found != nullptr ? found->editor.get() : nullptr;
+}
+
+platform::Label* Page::labelOf(const std::string& parameter) const
+{
+    Row* const found = row(parameter);
+    return found != nullptr ? &found->label : nullptr;
+}
+
+platform::CommandButton* Page::readButton(const std::string& group) const
+{
+    for (const auto& section : mSections) {
+        if (section->group == group) {
+            return section->cmdRead.get();
+        }
+    }
+    return nullptr;
+}
+
+std::vector<std::string> Page::groups() const
+{
+    std::vector<std::string> result;
+    for (const auto& section : mSections) {
+        for (const auto& row : section->rows) {
+            const std::string group = row->editor->ContextTag();
+            if (!group.empty() && std::find(result.begin(), result.end(), group) == result.end()) {
+                result.push_back(group);
+            }
+        }
+    }
+    return result;
+}
+
+// --- Layout -----------------------------------------------------------------------------------
+
+std::int32_t Page::labelWidth() const
+{
+    std::int32_t width = 0;
+    for (const auto& section : mSections) {
+        for (const auto& row : section->rows) {
+            width = std::max(width, textWidth(row->label.Caption));
+        }
+    }
+    return width;
+}
+
+std::int32_t Page::fill(Section& section, std::int32_t labelWidth)
+{
+    const std::int32_t editorLeft = kMargin + labelWidth + kGap;
+    std::int32_t       needed     = 0;
+    std::int32_t       top        = kTitleHeight;
+    for (const auto& row : section.rows) {
+        row->label.Left    = kMargin;
+        row->label.Top     = top + kTextTop;
+        row->label.Width   = labelWidth;
+        row->label.Height  = kTextHeight;
+        row->editor->Width = boxWidth(*row->editor) + unitWidth(*row->editor) + kSignsWidth;
+        row->frame.Left    = editorLeft;
+        row->frame.Top     = top;
+        row->frame.Height  = kRowHeight;
+        // A unit that comes with a value later on finds its room.
+        row->frame.Width = boxWidth(*row->editor) + kUnitRoom + kSignsWidth;
+        needed           = std::max(needed, editorLeft + row->frame.Width.get());
+        top += kRowPitch;
+    }
+    section.frame.Height = top + kGap;
+    if (section.cmdRead) {
+        const std::int32_t date   = textWidth("00.00.0000 00:00:00 PM");
+        const std::int32_t read   = textWidth(section.lblRead->Caption);
+        const std::int32_t button = textWidth(section.cmdRead->Caption) + kButtonMargin;
+        const std::int32_t title  = textWidth(section.frame.Caption) * 5 / 4;
+        needed = std::max(needed, kMargin + title + 4 * kGap + read + date + button);
+    }
+    return needed + kMargin;
+}
+
+void Page::layOut(std::int32_t width)
+{
+    mLaidOutFor = width;
+    // Sections side by side have one width, so that what belongs together stands in line.
+    const std::int32_t labels = labelWidth();
+    std::int32_t       needed = 0;
+    for (const auto& section : mSections) {
+        needed = std::max(needed, fill(*section, labels));
+    }
+    const std::int32_t columns = std::clamp<std::int32_t>(
+        (width - kMargin) / (needed + kMargin), 1,
+        std::clamp<std::int32_t>(static_cast<std::int32_t>(mSections.size()), 1, 2));
+    // They share the room that is left, up to a measure beyond which labels and values lose touch.
+    const std::int32_t share = (width - kMargin) / columns - kMargin;
+    needed                   = std::clamp(share, needed, needed * 5 / 4);
+    std::vector<std::int32_t> bottoms(static_cast<std::size_t>(columns), kMargin);
+    for (const auto& section : mSections) {
+        const auto shortest = std::min_element(bottoms.begin(), bottoms.end());
+        section->frame.Left =
+            kMargin + static_cast<std::int32_t>(shortest - bottoms.begin()) * (needed + kMargin);
+        section->frame.Top   = *shortest;
+        section->frame.Width = needed;
+        *shortest += section->frame.Height + kMargin;
+        if (section->cmdRead) {
+            auto& button  = *section->cmdRead;
+            button.Width  = textWidth(button.Caption) + kButtonMargin;
+            button.Height = kRowHeight;
+            button.Left   = needed - kMargin - button.Width;
+            button.Top    = kTextTop;
+            auto& date    = *section->date;
+            date.Width    = textWidth(date.Caption()) + kGap / 2;
+            date.Left     = button.Left - kGap - date.Width;
+            date.Top      = 2 * kTextTop;
+            auto& read    = *section->lblRead;
+            read.Width    = textWidth(read.Caption) + kGap / 2;
+            read.Height   = kTextHeight;
+            read.Left     = date.Left - kGap / 2 - read.Width;
+            read.Top      = 2 * kTextTop;
+            read.Visible  = !date.Caption().empty();
+        }
+    }
+    Width  = columns * (needed + kMargin) + kMargin;
+    Height = *std::max_element(bottoms.begin(), bottoms.end());
+}
+
+// --- Host contract ----------------------------------------------------------------------------
+
+void Page::setMode(Section& section, std::int32_t mode)
+{
+    if (section.cmdRead) {
+        section.cmdRead->Enabled = mode == kOnline;
+    }
+}
+
+void Page::SetMessenger(Messenger* messenger)
+{
+    ViewBase::SetMessenger(messenger);
+    mOnMode.drop();
+    if (messenger == nullptr) {
+        return;
+    }
+    const auto follow = [this](std::int32_t mode) {
+        for (const auto& section : mSections) {
+            setMode(*section, mode);
+        }
+    };
+    mOnMode = messenger->ViewSetCommunicationMode.subscribe(follow);
+    follow(messenger->GetCommunicationMode());
+}
+
+void Page::Localize(Translator& translator)
+{
+    ViewBase::Localize(translator);
+    for (const auto& section : mSections) {
+        section->frame.Caption = translator.Translate(section->title);
+    }
+    layOut(mLaidOutFor);
+}
+
+void Page::SetOfflineData(const IXMLDOMNode& node)
+{
+    ViewBase::SetOfflineData(node);
+    layOut(mLaidOutFor);
+}
+
+void Page::RequestFocus()
+{
+    for (const auto& section : mSections) {
+        for (const auto& row : section->rows) {
+            for (platform::Widget* widget : row->editor->Widgets()) {
+                if (widget->TabStop && widget->acceptsUser()) {
+                    widget->focus();
+                    return;
+                }
+            }
+        }
+    }
+}
+
+} // namespace quill::shell
