@@ -78,15 +78,17 @@ QColor darkGround(const QColor& color, const QPalette& palette)
 
 QColor readable(const QColor& color, const QColor& ground)
 {
-    // Steps towards white reach 21:1 on black, so some step is enough on any dark ground.
+    // Away from the ground; white or black itself reaches 4.5:1 on any.
+    const QColor away =
+        contrast(Qt::white, ground) > contrast(Qt::black, ground) ? Qt::white : Qt::black;
     constexpr int kSteps = 50;
     for (int step = 0; step < kSteps; ++step) {
-        const QColor candidate = mixed(color, Qt::white, static_cast<double>(step) / kSteps);
+        const QColor candidate = mixed(color, away, static_cast<double>(step) / kSteps);
         if (contrast(candidate, ground) >= kReadableContrast) {
             return candidate;
         }
     }
-    return Qt::white;
+    return away;
 }
 
 } // namespace
@@ -132,13 +134,10 @@ QColor shownColor(platform::Color color, QPalette::ColorRole role, const QPalett
     }
     const QColor given(static_cast<int>(color & 0xFFU), static_cast<int>((color >> 8) & 0xFFU),
                        static_cast<int>((color >> 16) & 0xFFU));
-    if (!isDark(palette)) {
-        return given;
+    if (isText(role)) {
+        return readable(given, ground.isValid() ? ground : groundOf(role, palette));
     }
-    if (!isText(role)) {
-        return darkGround(given, palette);
-    }
-    return readable(given, ground.isValid() ? ground : groundOf(role, palette));
+    return isDark(palette) ? darkGround(given, palette) : given;
 }
 
 } // namespace quill::qt

@@ -6,10 +6,10 @@
 
 namespace quill::qt {
 
-/// The colour on screen for a colour of a model. A system colour is the palette's. Any other is
+/// The colour on screen for a colour of a model. A system colour is the palette's. A ground is
 /// shown as it is on a light palette; on a dark one it keeps its meaning, not its value: white
-/// becomes the palette's `Base`, greys a darker `Base`, a tinted ground the same tint in dark, and
-/// a text the same hue, light enough to be read on its ground.
+/// becomes the palette's `Base`, greys a darker `Base`, a tinted ground the same tint in dark. A
+/// text keeps its hue and is made as light or as dark as it must be to be read on its ground.
 ///
 /// `role` is the role that the colour is for: `Base`, `Window` or `Button` for a ground, `Text`,
 /// `WindowText` or `ButtonText` for what is written on it. `ground` is the ground of a text as it
@@ -31,7 +31,7 @@ namespace quill::qt {
 /// for the web define it.
 [[nodiscard]] double contrast(const QColor& a, const QColor& b);
 
-/// Least contrast of a text on a dark palette.
+/// Least contrast of a text that is not the palette's own.
 constexpr double kReadableContrast = 4.5;
 
 } // namespace quill::qt

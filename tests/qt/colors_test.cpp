@@ -49,9 +49,19 @@ TEST(Colors, SystemColorsAreThePalettes)
     }
 }
 
-TEST(Colors, ALightPaletteShowsThemAsTheyAre)
+TEST(Colors, ALightPaletteDarkensATextOnlyAsFarAsItMust)
 {
-    EXPECT_EQ(shownColor(kRed, QPalette::Text, light()), QColor(255, 0, 0));
+    const QColor red = shownColor(kRed, QPalette::Text, light());
+    EXPECT_GE(contrast(red, light().color(QPalette::Base)), kReadableContrast);
+    EXPECT_GT(red.red(), 220); // still red, pure red is too light on white
+    EXPECT_EQ(red.green(), 0);
+    EXPECT_GE(contrast(shownColor(kRed, QPalette::Text, light(), QColor(0xe0, 0xe0, 0xe0)),
+                       QColor(0xe0, 0xe0, 0xe0)),
+              kReadableContrast);
+}
+
+TEST(Colors, ALightPaletteShowsTheOthersAsTheyAre)
+{
     EXPECT_EQ(shownColor(kBlue, QPalette::Text, light()), QColor(0, 0, 255));
     EXPECT_EQ(shownColor(kGrey, QPalette::Base, light()), QColor(0xe0, 0xe0, 0xe0));
     EXPECT_EQ(shownColor(kWhite, QPalette::Base, light()), QColor(Qt::white));
@@ -109,7 +119,8 @@ TEST(ColorsOnScreen, FollowTheModelAndThePalette)
     screen.view->setPalette(light());
     settle();
     EXPECT_EQ(screen[page.txt]->palette().color(QPalette::Base), QColor(0xe0, 0xe0, 0xe0));
-    EXPECT_EQ(screen[page.txt]->palette().color(QPalette::Text), QColor(255, 0, 0));
+    EXPECT_EQ(screen[page.txt]->palette().color(QPalette::Text),
+              shownColor(kRed, QPalette::Text, screen[page.txt]->palette()));
     EXPECT_EQ(screen[page.cbo]->palette().color(QPalette::ButtonText), QColor(0, 0, 255));
 
     screen.view->setPalette(dark());
