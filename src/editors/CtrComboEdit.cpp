@@ -119,10 +119,8 @@ void CtrComboEdit::fillList(const Steps& step, Translator* translator)
         }
         step([&] { setComboIndex(entry, row); });
         std::string text = read(step, entry, "name");
-        if (translator != nullptr) {
-            // An entry that cannot be translated keeps its place under its name.
-            step([&] { text = translator->Translate(text); });
-        }
+        // An entry that cannot be translated keeps its place under its name.
+        step([&] { text = existing(translator).Translate(text); });
         cboBox.AddItem(text);
         ++row;
     }
@@ -140,7 +138,7 @@ void CtrComboEdit::Localize(Translator& translator)
 void CtrComboEdit::RefreshItemList()
 {
     const Steps step = steps("RefreshItemList");
-    fillList(step, step.value<Translator*>(nullptr, [&] { return &existing(host().GetTranslator()); }));
+    fillList(step, step.value<Translator*>(nullptr, [&] { return host().GetTranslator(); }));
 }
 
 void CtrComboEdit::SetItemVisibility(const std::string& key, bool visibility)
@@ -368,10 +366,9 @@ void CtrComboEdit::ShowInfo(bool visibility, const std::string& infoTag)
 
 void CtrComboEdit::lblInfo_Click()
 {
-    const Steps       step    = steps("lblInfo_Click");
-    const std::string key     = mInfoTag + "_" + GetComboText(cboBox.ListIndex());
-    auto* const       texts   =
-        step.value<Translator*>(nullptr, [&] { return host().GetTranslator(); });
+    const Steps       step = steps("lblInfo_Click");
+    const std::string key  = mInfoTag + "_" + GetComboText(cboBox.ListIndex());
+    auto* const texts = step.value<Translator*>(nullptr, [&] { return host().GetTranslator(); });
     const std::string label   = step.text([&] { return existing(texts).TranslateTag(Tag); });
     const std::string heading = step.text([&] { return existing(texts).Translate(mInfoTag); });
     const std::string help    = step.text([&] { return existing(texts).Translate(key); });

@@ -98,8 +98,8 @@ private:
     void cboBox_Click();
     void lblInfo_Click();
 
-    /// Gives every visible entry its row, hidden ones none; entries are shown by name without a
-    /// Translator.
+    /// Gives every visible entry its row, hidden ones none; an entry that cannot be
+    /// translated, or none without a Translator, is shown by name with a report.
     void fillList(const Steps& step, Translator* translator);
     /// The entry in a row, nothing for none.
     [[nodiscard]] IXMLDOMNode entryAt(const Steps& step, std::int32_t row) const;

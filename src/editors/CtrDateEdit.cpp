@@ -17,11 +17,15 @@ namespace {
 constexpr const char* kDateForm = "d.m.yyyy";
 constexpr const char* kTimeForm = "h:Nn:Ss";
 
-/// Text of an attribute that a date may well do without.
+/// Text of a node that a date may well do without.
+std::string textOf(const IXMLDOMNode& found)
+{
+    return found ? found.get_text() : std::string{};
+}
+
 std::string optionalText(const IXMLDOMNode& node, const char* attribute)
 {
-    const IXMLDOMNode found = platform::attributeNode(node, attribute);
-    return found ? found.get_text() : std::string{};
+    return textOf(platform::attributeNode(node, attribute));
 }
 
 /// Reads day, month and year with dots between. The three are put together before the date is
@@ -207,7 +211,8 @@ bool CtrDateEdit::setOnlineData(const IXMLDOMNode& item)
         return false;
     }
     const Steps step = steps("setOnlineData");
-    showText(step, step.text([&] { return documents::itemValue(item, mValueType); }));
+    showText(step,
+             step.text([&] { return textOf(item.selectSingleNode("./comm:" + mValueType)); }));
     SetModifiedForward(false);
     takeAsSynced();
     step([&] { Change.raise(Text()); });

@@ -60,7 +60,7 @@ protected:
     [[nodiscard]] const char*             word() const override { return "CtrDateEdit"; }
     [[nodiscard]] platform::Widget&       box() override { return datePicker; }
     [[nodiscard]] const platform::Widget& box() const override { return datePicker; }
-    [[nodiscard]] bool isLocked() const override { return datePicker.Locked; }
+    [[nodiscard]] bool                    isLocked() const override { return datePicker.Locked; }
     void                                  keepOriginal() override;
     void                                  ViewGetChanges(std::int16_t scope) override;
 

@@ -24,6 +24,7 @@ void CtrDateLabel::start()
     };
     fill();
     lblDate.BackColor = BackColor.get();
+    TabStop           = false; // a label, though a control of its own
     mOnResize         = Resize.subscribe(fill);
 }
 

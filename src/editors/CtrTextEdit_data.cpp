@@ -6,6 +6,8 @@
 #include "framework/values.h"
 #include "platform/utf8.h"
 
+#include <algorithm>
+
 namespace quill {
 
 using namespace editorColors;
@@ -14,6 +16,8 @@ namespace {
 
 constexpr const char* kNoUnit = "noUnit";
 constexpr const char* kCrLf   = "\r\n";
+/// Behind these no double has a digit but 0: a datafile that asks for more gets no longer texts.
+constexpr std::int16_t kMostDecimals = 340;
 
 } // namespace
 
@@ -44,7 +48,7 @@ void CtrTextEdit::readFormat(const Steps& step, const IXMLDOMNode& parameter)
     mNumberFormat = "######0";
     if (mDecimalCount >= 1) {
         mNumberFormat += '.';
-        mNumberFormat.append(static_cast<std::size_t>(mDecimalCount), '0');
+        mNumberFormat.append(static_cast<std::size_t>(std::min(mDecimalCount, kMostDecimals)), '0');
     }
 }
 

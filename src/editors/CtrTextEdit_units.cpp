@@ -54,7 +54,7 @@ std::optional<float> CtrTextEdit::convert(const Steps& step, double value, const
         return std::nullopt;
     }
     return step.value(std::optional<float>{},
-                      [&] { return units->ConvertValue(static_cast<float>(value), from, to); });
+                      [&] { return units->ConvertValue(values::toSingle(value), from, to); });
 }
 
 std::optional<float> CtrTextEdit::convert(const Steps& step, const std::string& number,

@@ -86,6 +86,8 @@ protected:
     /// The widget that holds the value.
     [[nodiscard]] virtual platform::Widget&       box()       = 0;
     [[nodiscard]] virtual const platform::Widget& box() const = 0;
+    /// An editor whose box is disabled counts as disabled.
+    [[nodiscard]] bool isTabStop() const override { return Control::isTabStop() && Enabled(); }
     /// Whether the user is kept from changing the value although the box is enabled.
     [[nodiscard]] virtual bool isLocked() const { return false; }
     /// The present value becomes the one that edits are compared with.

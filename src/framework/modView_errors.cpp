@@ -98,8 +98,8 @@ void tellEditors(const Steps& step, const platform::WidgetList& controls, Respon
 void showResponseError(const Steps& step, Messenger* messenger, const std::string& code,
                        const std::vector<std::string>& itemNames)
 {
-    auto* const translator = step.value<Translator*>(
-        nullptr, [&] { return existing(messenger).GetTranslator(); });
+    auto* const translator =
+        step.value<Translator*>(nullptr, [&] { return existing(messenger).GetTranslator(); });
     const auto translate = [&](const std::string& key) {
         return step.text([&] { return existing(translator).Translate(key); });
     };

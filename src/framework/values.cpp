@@ -341,6 +341,14 @@ std::int32_t toInt32(double number)
     return toInteger<std::int32_t>(number);
 }
 
+float toSingle(double number)
+{
+    if (std::isfinite(number) && std::abs(number) > std::numeric_limits<float>::max()) {
+        throw failure(platform::kOverflow);
+    }
+    return static_cast<float>(number);
+}
+
 std::string replaceAll(std::string text, const std::string& what, const std::string& by)
 {
     if (what.empty()) {

@@ -51,6 +51,8 @@ namespace quill::values {
 /// The same as a 16-bit or 32-bit integer; outside the range, and for NaN, failure 6.
 [[nodiscard]] std::int16_t toInt16(double number);
 [[nodiscard]] std::int32_t toInt32(double number);
+/// Narrowed for a unit conversion; a number that is too large for single precision is failure 6.
+[[nodiscard]] float toSingle(double number);
 
 /// All occurrences replaced; an empty `what` replaces nothing.
 [[nodiscard]] std::string replaceAll(std::string text, const std::string& what,

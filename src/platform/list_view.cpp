@@ -2,6 +2,8 @@
 
 #include "platform/failure.h"
 
+#include <algorithm>
+
 namespace quill::platform {
 
 ListView::ListView(const Design& design) : Widget(design)
@@ -72,6 +74,7 @@ void ListView::setColumnWidth(int column, std::int32_t twips)
 void ListView::Add(ListItem item)
 {
     mItems.push_back(std::move(item));
+    mFirstVisible = std::max(mFirstVisible, 1);
     notify({WidgetChange::What::rowsInserted, nullptr, Count() - 1, Count() - 1});
 }
 

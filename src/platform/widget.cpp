@@ -278,7 +278,7 @@ void Widget::propertyChanged(const void* property)
 Widget* Control::focusTarget()
 {
     for (Widget* widget : mWidgets) {
-        if (widget->TabStop && widget->acceptsUser()) {
+        if (widget->isTabStop()) {
             return widget->focusTarget();
         }
     }

@@ -151,7 +151,9 @@ public:
 protected:
     /// The widget that takes the focus when this one is asked to: this one.
     [[nodiscard]] virtual Widget* focusTarget() { return this; }
-    void notify(const WidgetChange& change) const { Changed.raise(change); }
+    /// Whether a form that is asked to take the focus may hand it to this widget.
+    [[nodiscard]] virtual bool isTabStop() const { return TabStop && acceptsUser(); }
+    void                       notify(const WidgetChange& change) const { Changed.raise(change); }
 
 private:
     friend class Control;

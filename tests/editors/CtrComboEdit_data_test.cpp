@@ -174,6 +174,19 @@ TEST_F(ComboEditData, IsServedByAPage)
     EXPECT_THAT(messenger.errors(), IsEmpty());
 }
 
+TEST_F(ComboEditData, APageHandsTheFocusToItsFirstEditorThatIsEnabled)
+{
+    TestPage     page{{.Name = "page", .Tag = "page"}};
+    CtrComboEdit first{page, {.Name = "first", .Tag = "ctr_mode"}};
+    CtrComboEdit second{page, {.Name = "second", .Tag = "ctr_mode"}};
+    page.RequestFocus();
+    EXPECT_TRUE(first.cboBox.HasFocus());
+    first.setEnabled(false);
+    EXPECT_FALSE(first.HasFocus());
+    page.RequestFocus();
+    EXPECT_TRUE(second.cboBox.HasFocus());
+}
+
 // --- Values from the device and from an import ------------------------------------------------
 
 TEST_F(ComboEditData, TakesAValueFromTheDevice)
@@ -222,13 +235,18 @@ TEST_F(ComboEditData, TakesAnImportAsAnUnsavedEdit)
     EXPECT_THAT(messenger.actions(), ElementsAre("SetParameterState(page, edited)"));
 }
 
-TEST_F(ComboEditData, TellsOfTheWayBackFromAnImport)
+TEST_F(ComboEditData, AChoiceAfterAnImportIsComparedWithTheRowBeforeIt)
 {
     loadQuietly("1");
     parameter().get_attributes().getNamedItem("value").put_value("0");
     edit.setImportData(parameter());
+    EXPECT_EQ(edit.selectedIndex(), 1);
     edit.cboBox.choose(1);
-    EXPECT_THAT(changes, ElementsAre("off", "on"));
+    EXPECT_THAT(changes, ElementsAre("off"));
+    EXPECT_FALSE(edit.Modified());
+    edit.cboBox.choose(0);
+    EXPECT_THAT(changes, ElementsAre("off", "off"));
+    EXPECT_EQ(edit.selectedIndex(), 0);
 }
 
 TEST_F(ComboEditData, MarksACommunicationError)

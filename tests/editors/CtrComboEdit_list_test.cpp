@@ -60,6 +60,7 @@ TEST_F(ComboEditList, KeepsItsListWhenGivenNone)
     edit.SetMappings(nullptr);
     EXPECT_THAT(edit.cboBox.List(), ElementsAre("off", "on", "auto"));
     EXPECT_EQ(edit.Text(), "auto");
+    EXPECT_THAT(messenger.errors(), IsEmpty());
 }
 
 TEST_F(ComboEditList, ReplacesItsListByANewOneWithNothingChosen)
@@ -166,7 +167,15 @@ TEST_F(ComboEditList, RefreshesByNameWithoutATranslator)
     EXPECT_THAT(edit.cboBox.List(), ElementsAre("off", "on", "auto"));
     EXPECT_EQ(edit.Text(), "auto");
     EXPECT_THAT(messenger.errors(),
-                ElementsAre(HasSubstr("ReportError(Combo ctr_mode RefreshItemList, 91,")));
+                Contains(HasSubstr("ReportError(Combo ctr_mode RefreshItemList, 91,")).Times(3))
+        << "one step per entry";
+
+    forget();
+    messenger.failOn("GetTranslator");
+    edit.RefreshItemList();
+    EXPECT_THAT(edit.cboBox.List(), ElementsAre("off", "on", "auto"));
+    ASSERT_EQ(messenger.errors().size(), 4U);
+    EXPECT_THAT(messenger.errors().front(), HasSubstr("RefreshItemList, 5,"));
 }
 
 TEST_F(ComboEditList, DoesNothingToAListThatIsNotThere)
@@ -205,6 +214,18 @@ TEST_F(ComboEditList, LogsAMissingList)
         messenger.calls,
         ElementsAre(
             "WriteLog(66, Error: Combo ctr_mode GetIndex has no mappings. Check Datafile.)"));
+}
+
+TEST_F(ComboEditList, ANumberIsRoundedBeforeTheMissingListIsLogged)
+{
+    edit.setOfflineData(test::datafile(R"(<data:parameter name="mode" type="floatVal" value=""
+        access="readWrite" synchronised="1"/>)")
+                            .selectSingleNode("//data:parameter"));
+    forget();
+    EXPECT_EQ(edit.GetIndex("1E+20"), -1);
+    EXPECT_THAT(messenger.actions(), ElementsAre(HasSubstr("Combo ctr_mode GetIndex, 6,")));
+    ASSERT_EQ(messenger.calls.size(), 2U);
+    EXPECT_THAT(messenger.calls[1], HasSubstr("WriteLog(66,"));
 }
 
 TEST_F(ComboEditList, SaysThatAnEntryIsHidden)

@@ -213,6 +213,22 @@ TEST_F(ComboEdit, ReportsHelpWithoutATranslator)
     EXPECT_THAT(messenger.callsTo("ShowMessage"), IsEmpty());
 }
 
+TEST_F(ComboEdit, AsksForTheTranslatorOncePerHelp)
+{
+    load("7");
+    edit.ShowInfo(true, "modeInfo");
+    forget();
+    edit.lblInfo.click();
+    EXPECT_EQ(messenger.callsTo("GetTranslator").size(), 1U);
+
+    forget();
+    messenger.failOn("GetTranslator");
+    edit.lblInfo.click();
+    EXPECT_THAT(messenger.errors(),
+                ElementsAre(HasSubstr("lblInfo_Click, 5,"), HasSubstr("lblInfo_Click, 91,"),
+                            HasSubstr("lblInfo_Click, 91,"), HasSubstr("lblInfo_Click, 91,")));
+}
+
 TEST_F(ComboEdit, MakesRoomForTheInfoSign)
 {
     edit.resize(3000, 315);
@@ -243,6 +259,7 @@ TEST_F(ComboEdit, ADetachedEditorDoesNotReact)
     messenger.ViewGetChanges.raise(kModifiedEditors);
     EXPECT_TRUE(edit.Enabled());
     EXPECT_THAT(messenger.calls, IsEmpty());
+    EXPECT_THAT(toolkit.debugLines, IsEmpty()) << "a reaction would fail without a Messenger";
 }
 
 TEST_F(ComboEdit, ADeadEditorDoesNotReact)

@@ -169,6 +169,59 @@ TEST_P(DateEditWithout, AnAttributeGoesOn)
 INSTANTIATE_TEST_SUITE_P(Attributes, DateEditWithout,
                          testing::Values("type", "value", "minVal", "maxVal", "synchronised"));
 
+TEST_F(DateEditData, IsReadOnlyWhereTheAccessSaysNoWrite)
+{
+    for (const char* access : {"read", "", "none"}) {
+        CtrDateEdit other{frame, {.Name = "other", .Tag = "ctr_date"}};
+        other.SetMessenger(&messenger);
+        give("31.1.2020", "0");
+        parameter().get_attributes().getNamedItem("access").put_value(access);
+        other.setOfflineData(parameter());
+        EXPECT_TRUE(other.datePicker.Locked) << access;
+        EXPECT_EQ(other.datePicker.BackColor, editorColors::kGrey);
+        EXPECT_TRUE(other.Silent());
+        EXPECT_EQ(other.Text(), "31.1.2020");
+        EXPECT_EQ(other.datePicker.pick("2020-02-01"), UserDoor::refused);
+        EXPECT_EQ(attribute("value"), "31.1.2020");
+        other.setEnabled(false);
+        EXPECT_TRUE(other.Enabled());
+        EXPECT_EQ(other.datePicker.BackColor, editorColors::kGrey);
+        messenger.RequestChanges(kModifiedEditors);
+        EXPECT_THAT(messenger.bookings, IsEmpty());
+    }
+    EXPECT_THAT(messenger.errors(), IsEmpty());
+}
+
+TEST_F(DateEditData, IsWritableWhereTheAccessSaysSoInAnyCase)
+{
+    give("31.1.2020", "1");
+    parameter().get_attributes().getNamedItem("access").put_value("READ");
+    edit.setOfflineData(parameter());
+    parameter().get_attributes().getNamedItem("access").put_value("reAdWrIte");
+    edit.setOfflineData(parameter());
+    EXPECT_FALSE(edit.datePicker.Locked);
+    EXPECT_EQ(edit.datePicker.BackColor, editorColors::kWhite);
+    // Nothing takes the silence back but the page itself.
+    EXPECT_TRUE(edit.Silent());
+    EXPECT_EQ(edit.datePicker.pick("2020-02-01"), UserDoor::done);
+}
+
+TEST_F(DateEditData, AMissingAccessChangesNothing)
+{
+    const auto color = edit.datePicker.BackColor.get();
+    give("31.1.2020", "1");
+    parameter().get_attributes().removeNamedItem("access");
+    edit.setOfflineData(parameter());
+    EXPECT_FALSE(edit.datePicker.Locked);
+    EXPECT_FALSE(edit.Silent());
+    EXPECT_EQ(edit.datePicker.BackColor, color);
+    EXPECT_THAT(messenger.errors(), IsEmpty());
+
+    edit.datePicker.Locked = true;
+    edit.setOfflineData(parameter());
+    EXPECT_TRUE(edit.datePicker.Locked);
+}
+
 TEST_F(DateEditData, IsServedByAPage)
 {
     TestPage     page{{.Name = "page", .Tag = "page"}};
@@ -203,14 +256,21 @@ TEST_F(DateEditData, TakesAValueFromTheDevice)
                 ElementsAre("SetParameterState(page, original)", "SetParameterState(page, sync)"));
 }
 
-TEST_F(DateEditData, ReportsAnItemWithoutItsValue)
+TEST_F(DateEditData, TakesAnItemWithoutItsValueForAnEmptyOne)
 {
     loadQuietly();
     edit.setOnlineData(online("5.4.2019", "stringVal"));
     EXPECT_EQ(edit.Text(), "");
     EXPECT_FALSE(edit.GetXmlItem(false));
+    EXPECT_THAT(messenger.actions(), ElementsAre("SetParameterState(page, sync)"));
+}
+
+TEST_F(DateEditData, ReportsAnItemWhileItsTypeIsNotKnown)
+{
+    edit.setOnlineData(online("5.4.2019"));
+    EXPECT_EQ(edit.Text(), "");
     EXPECT_THAT(messenger.errors(),
-                ElementsAre(HasSubstr("ReportError(CtrDateEdit ctr_date setOnlineData, 91,")));
+                ElementsAre(HasSubstr("ReportError(CtrDateEdit ctr_date setOnlineData, 5,")));
 }
 
 TEST_F(DateEditData, RecoversFromACommunicationError)

@@ -3,6 +3,7 @@
 #include "support/toolkit_scope.h"
 
 #include "platform/failure.h"
+#include "platform/text_box.h"
 
 #include <gmock/gmock.h>
 
@@ -52,6 +53,15 @@ TEST(DateLabel, FillsItsArea)
     label.resize(1500, 250);
     EXPECT_EQ(label.lblDate.Width, 1500);
     EXPECT_EQ(label.lblDate.Height, 250);
+}
+
+TEST(DateLabel, IsPassedOverWhereAFormHandsOutTheFocus)
+{
+    platform::Control form;
+    CtrDateLabel      label{form};
+    platform::TextBox box{form};
+    form.focus();
+    EXPECT_TRUE(box.HasFocus());
 }
 
 /// A toolkit that cannot say what a date looks like.

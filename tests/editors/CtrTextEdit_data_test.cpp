@@ -83,6 +83,41 @@ TEST_F(TextEditDataTest, ACommunicationErrorIsShownWithItsValue)
     EXPECT_THAT(states(), ElementsAre(state("syncError")));
 }
 
+TEST_F(TextEditDataTest, AtALoadInStepTheSynchronisationIsReportedFirst)
+{
+    load();
+    editor.SetModifiedForward(true);
+    documents::writeAttribute(parameter(), "synchronised", "1"); // which the load turned to "0"
+    messenger.clear();
+    editor.setOfflineData(parameter());
+    EXPECT_THAT(states(), ElementsAre(state("sync"), state("original")));
+}
+
+TEST_F(TextEditDataTest, TheDatafileIsShownWithoutAMessengerToo)
+{
+    editor.SetMessenger(nullptr);
+    load({{"synchronised", "0"}});
+    EXPECT_EQ(editor.Text(), "5.0");
+    EXPECT_EQ(editor.Unit(), "bar");
+    EXPECT_TRUE(editor.Modified());
+    EXPECT_EQ(editor.changeState(), "original");
+    editor.setOnlineData(itemNode("bar", "4"));
+    EXPECT_EQ(editor.Text(), "4.0");
+    EXPECT_THAT(messenger.calls, IsEmpty());
+}
+
+TEST_F(TextEditDataTest, AGarbledLimitLeavesTheOldOne)
+{
+    load();
+    editor.setOfflineData(documents::findParameter(
+        datafile(parameterXml({{"minVal", "low"}, {"maxVal", "high"}})), "travel"));
+    EXPECT_EQ(editor.limitMin(), 0);
+    EXPECT_EQ(editor.limitMax(), 100);
+    EXPECT_THAT(messenger.errors(),
+                ElementsAre(HasSubstr("TextEdit ctr_travel setOfflineData, 13"),
+                            HasSubstr("TextEdit ctr_travel setOfflineData, 13")));
+}
+
 TEST_F(TextEditDataTest, TheFirstNodeStaysBound)
 {
     load();
@@ -258,6 +293,44 @@ TEST_F(TextEditDataTest, AParameterThatCannotBeWrittenIsGreyLockedAndSilent)
     }
 }
 
+TEST_F(TextEditDataTest, AParameterThatBecomesWritableIsUnlockedAndStaysSilent)
+{
+    load({{"access", "read"}});
+    load();
+    EXPECT_FALSE(editor.Locked());
+    EXPECT_EQ(editor.txtBox.BackColor.get(), 0xffffffU);
+    EXPECT_TRUE(editor.Silent());
+}
+
+TEST_F(TextEditDataTest, EverySetterRaisesChangeAtItsEndAlsoForTheSameText)
+{
+    load();
+    documents::writeAttribute(parameter(), "synchronised", "1");
+    const auto imported = datafile(parameterXml({}));
+    editor.setOfflineData(parameter());
+    EXPECT_THAT(changes, ElementsAre("5.0"));
+    editor.setOnlineData(itemNode("bar", "5"));
+    EXPECT_THAT(changes, ElementsAre("5.0", "5.0"));
+    editor.setLocalData(itemNode("bar", "5.0"));
+    EXPECT_THAT(changes, ElementsAre("5.0", "5.0", "5.0"));
+    editor.setImportData(documents::findParameter(imported, "travel"));
+    EXPECT_THAT(changes, ElementsAre("5.0", "5.0", "5.0", "5.0"));
+}
+
+TEST_F(TextEditDataTest, TheSameTextFromElsewhereIsAnEditAndFromTheDeviceIsNone)
+{
+    load();
+    editor.setLocalData(itemNode("bar", "5.0"));
+    EXPECT_TRUE(editor.Modified());
+    editor.setOnlineData(itemNode("bar", "5"));
+    EXPECT_FALSE(editor.Modified());
+    const auto imported = datafile(parameterXml({}));
+    editor.setImportData(documents::findParameter(imported, "travel"));
+    EXPECT_TRUE(editor.Modified());
+    EXPECT_THAT(states(),
+                ElementsAre(state("edited"), state("original"), state("sync"), state("edited")));
+}
+
 TEST_F(TextEditDataTest, WriteInAnyLetterCaseUnlocks)
 {
     load({{"access", "WRITE only"}});
@@ -354,6 +427,26 @@ TEST_F(TextEditDataTest, NaNFromTheDeviceIsShownAndWrongUntilTheNextValue)
     EXPECT_TRUE(editor.Correct());
 }
 
+TEST_F(TextEditDataTest, MinusInfFromTheDeviceKeepsTheUnit)
+{
+    messenger.converter = &converter;
+    load();
+    editor.setOnlineData(itemNode("furlong", "-Inf"));
+    EXPECT_EQ(editor.Text(), "-Inf");
+    EXPECT_EQ(editor.Unit(), "bar");
+    EXPECT_FALSE(messenger.wasCalled("WriteLog"));
+}
+
+TEST_F(TextEditDataTest, AParameterWithoutUnitTakesNoneFromAMessage)
+{
+    messenger.converter = &converter;
+    load({{"unit", ""}});
+    editor.setOnlineData(itemNode("bar", "4"));
+    EXPECT_EQ(editor.Text(), "4.0");
+    EXPECT_EQ(editor.Unit(), "");
+    EXPECT_FALSE(messenger.wasCalled("WriteLog"));
+}
+
 TEST_F(TextEditDataTest, AnItemWithoutItsValueIsReportedAndLeavesAnEmptyBox)
 {
     load({{"unit", ""}});
@@ -362,6 +455,16 @@ TEST_F(TextEditDataTest, AnItemWithoutItsValueIsReportedAndLeavesAnEmptyBox)
     EXPECT_THAT(messenger.errors(),
                 ElementsAre(HasSubstr("TextEdit ctr_travel setOnlineData, 91")));
     EXPECT_THAT(states(), Contains(state("sync")));
+}
+
+TEST_F(TextEditDataTest, ASecondUnitWithNoWayEitherLeavesTheMessagesOwn)
+{
+    messenger.converter                  = &converter;
+    converter.displayUnits["ctr_travel"] = "mbar"; // no way from "mm" to it
+    load();
+    editor.setOnlineData(itemNode("mm", "2.5"));
+    EXPECT_EQ(editor.Unit(), "mm");
+    EXPECT_EQ(editor.Text(), "2.5");
 }
 
 // --- setLocalData -----------------------------------------------------------------------------
@@ -384,6 +487,16 @@ TEST_F(TextEditDataTest, ALocalValueWithoutUnitIsTakenSilently)
     EXPECT_THAT(messenger.callsTo("WriteLog"), IsEmpty());
     editor.setLocalData(itemNode("mbar", "4"));
     EXPECT_THAT(messenger.callsTo("WriteLog"), Not(IsEmpty()));
+}
+
+TEST_F(TextEditDataTest, ALocalValueIsConvertedToTheVisibleUnitAndDoesNotSync)
+{
+    useConverter("kPa");
+    load({{"synchronised", "2"}});
+    editor.setLocalData(itemNode("", "2.5"));
+    EXPECT_EQ(editor.Text(), "250");
+    EXPECT_FALSE(editor.hasSynced());
+    EXPECT_EQ(editor.syncState(), "syncError");
 }
 
 // --- setImportData ----------------------------------------------------------------------------
@@ -419,6 +532,35 @@ TEST_F(TextEditDataTest, AnImportWithoutAConverterShowsTheParametersUnit)
     editor.setImportData(documents::findParameter(imported, "travel"));
     EXPECT_EQ(editor.Text(), "2.5");
     EXPECT_EQ(editor.Unit(), "bar");
+}
+
+TEST_F(TextEditDataTest, AnImportedPercentageIsShownAsItIs)
+{
+    useConverter("kPa");
+    load({{"unit", "%"}});
+    const auto imported = datafile(parameterXml({{"value", "2.54"}}));
+    editor.setImportData(documents::findParameter(imported, "travel"));
+    EXPECT_EQ(editor.Text(), "2.5");
+    EXPECT_EQ(editor.Unit(), "%");
+    EXPECT_EQ(converter.conversions, 0);
+}
+
+TEST_F(TextEditDataTest, AnImportIsNotConvertedToAPlainNumberNorFromAPercentage)
+{
+    messenger.converter = &converter;
+    converter.add("bar", "noUnit", 2);
+    converter.add("%", "bar", 2);
+    const auto imported = datafile(parameterXml({{"value", "2.5"}}));
+    load();
+    editor.lblUnit.Caption = "";
+    editor.setImportData(documents::findParameter(imported, "travel"));
+    EXPECT_EQ(editor.Text(), "2.5");
+    EXPECT_EQ(editor.Unit(), "bar");
+    load({{"unit", "%"}});
+    editor.lblUnit.Caption = "bar";
+    editor.setImportData(documents::findParameter(imported, "travel"));
+    EXPECT_EQ(editor.Text(), "2.5");
+    EXPECT_EQ(editor.Unit(), "%");
 }
 
 // --- ViewSetUnits -----------------------------------------------------------------------------
@@ -457,6 +599,48 @@ TEST_F(TextEditDataTest, AnEditStaysAnEditWhenTheUnitChanges)
     EXPECT_FALSE(editor.Modified());
 }
 
+TEST_F(TextEditDataTest, AnEmptyOriginalStaysEmptyWhenTheUnitChanges)
+{
+    useConverter("bar");
+    load({{"synchronised", "0"}});
+    converter.displayUnits["travel"] = "kPa";
+    messenger.ViewSetUnits.raise();
+    EXPECT_EQ(editor.Text(), "500.0");
+    EXPECT_TRUE(editor.Modified());
+    EXPECT_EQ(editor.originalText(), "");
+}
+
+TEST_F(TextEditDataTest, TheUnitsAreLookedUpByTailsOfTheNameToo)
+{
+    messenger.converter = &converter;
+    CtrTextEdit valve{page, {.Name = "valve", .Tag = "ctr_valveTravel"}};
+    valve.SetMessenger(&messenger);
+    document = datafile(parameterXml({{"name", "valveTravel"}}));
+    valve.setOfflineData(documents::findParameter(document, "valveTravel"));
+    converter.displayUnits["travel"] = "kPa";
+    messenger.ViewSetUnits.raise();
+    EXPECT_EQ(valve.Unit(), "kPa");
+    converter.displayUnits.clear(); // nothing known any more: the datafile's unit
+    messenger.ViewSetUnits.raise();
+    EXPECT_EQ(valve.Unit(), "bar");
+    EXPECT_EQ(valve.Text(), "5.0");
+}
+
+TEST_F(TextEditDataTest, TheToolTipFollowsTheUnitsInEveryForm)
+{
+    useConverter("bar");
+    load({{"minVal", "0.5"}, {"maxVal", ""}});
+    converter.displayUnits["travel"] = "kPa";
+    messenger.ViewSetUnits.raise();
+    EXPECT_EQ(editor.txtBox.ToolTipText.get(), " > 50 kPa");
+    load({{"minVal", ""}, {"maxVal", "7"}});
+    messenger.ViewSetUnits.raise();
+    EXPECT_EQ(editor.txtBox.ToolTipText.get(), " < 700 kPa");
+    converter.displayUnits["travel"] = "furlong";
+    messenger.ViewSetUnits.raise();
+    EXPECT_EQ(editor.txtBox.ToolTipText.get(), " < 700 kPa");
+}
+
 TEST_F(TextEditDataTest, ATextThatIsNoNumberOnlyGetsTheNewUnit)
 {
     useConverter("bar");
@@ -490,6 +674,12 @@ TEST_F(TextEditDataTest, ABurstParameterGivesUpAtItsFirstTail)
     burst.setVisibleUnit("bar");
     messenger.ViewSetUnits.raise();
     EXPECT_EQ(burst.Unit(), "bar"); // this one ends at "burstValue"
+    converter.displayUnits["burstValue"] = "psi";
+    messenger.ViewSetUnits.raise();
+    EXPECT_EQ(burst.Unit(), "psi");
+    converter.displayUnits.clear();
+    messenger.ViewSetUnits.raise();
+    EXPECT_EQ(burst.Unit(), "psi"); // the end of the routine, not the datafile's unit
 }
 
 TEST_F(TextEditDataTest, NoUnitAndPercentDoNotFollowTheUnits)
@@ -500,6 +690,74 @@ TEST_F(TextEditDataTest, NoUnitAndPercentDoNotFollowTheUnits)
     messenger.ViewSetUnits.raise();
     EXPECT_EQ(editor.Unit(), "%");
     EXPECT_THAT(messenger.calls, IsEmpty());
+}
+
+// --- Numbers that no double can hold ----------------------------------------------------------
+
+TEST_F(TextEditDataTest, ANumberTooLargeKeepsItsUnitWhenTheUnitsChange)
+{
+    useConverter("bar");
+    load();
+    editor.txtBox.type("1e400");
+    messenger.clear();
+    converter.displayUnits["travel"] = "kPa";
+    EXPECT_NO_THROW(messenger.ViewSetUnits.raise());
+    EXPECT_EQ(editor.Text(), "1e400");
+    EXPECT_EQ(editor.Unit(), "bar");
+    EXPECT_THAT(messenger.calls, Contains(HasSubstr("ReportError")));
+}
+
+TEST_F(TextEditDataTest, ANumberTooLargeInADatafileStaysInItsUnit)
+{
+    useConverter("kPa");
+    EXPECT_NO_THROW(load({{"value", "1e400"}}));
+    EXPECT_EQ(editor.Text(), "1e400");
+    EXPECT_EQ(editor.Unit(), "bar");
+    EXPECT_FALSE(editor.Correct());
+}
+
+TEST_F(TextEditDataTest, ANumberTooLargeInAnImportStaysInItsUnit)
+{
+    useConverter("kPa");
+    load();
+    const auto import = datafile(parameterXml({{"value", "1e400"}}));
+    EXPECT_NO_THROW(editor.setImportData(documents::findParameter(import, "travel")));
+    EXPECT_EQ(editor.Text(), "1e400");
+    EXPECT_EQ(editor.Unit(), "bar");
+    EXPECT_FALSE(editor.Correct());
+}
+
+TEST_F(TextEditDataTest, ANumberTooLargeForAnUnconvertedOriginalLeavesTheOriginal)
+{
+    useConverter("kPa");
+    load({{"value", "1E999"}});
+    type("7");
+    messenger.ViewSetUnits.raise();
+    EXPECT_EQ(editor.Text(), "700.0");
+    EXPECT_EQ(editor.originalText(), "1E999");
+    EXPECT_TRUE(editor.Modified());
+}
+
+TEST_F(TextEditDataTest, ANumberBeyondSinglePrecisionIsNotConverted)
+{
+    useConverter("kPa");
+    load({{"minVal", ""}, {"maxVal", "1E300"}});
+    EXPECT_EQ(editor.txtBox.ToolTipText.get(), " <= 1E+300 bar");
+    type("1E39");
+    EXPECT_TRUE(editor.Correct());
+    EXPECT_EQ(stored("value"), "1E39"); // and its unit goes with it
+    EXPECT_EQ(stored("unit"), "kPa");
+    EXPECT_THAT(messenger.errors(),
+                Contains("ReportError(TextEdit ctr_travel FormatForCommunication, 6, Overflow)"));
+}
+
+TEST_F(TextEditDataTest, AnyNumberOfDecimalsMakesATextOfBoundedLength)
+{
+    load({{"decimals", "32767"}});
+    EXPECT_EQ(editor.decimalCount(), 32767);
+    EXPECT_EQ(editor.Text(), "5." + std::string(340, '0'));
+    load({{"decimals", "30"}, {"value", "0.5"}});
+    EXPECT_EQ(editor.Text(), "0.5" + std::string(29, '0'));
 }
 
 // --- Giving values back -----------------------------------------------------------------------
@@ -550,6 +808,16 @@ TEST_F(TextEditDataTest, AUnitThatCannotBeConvertedBecomesTheUnitOfTheMessage)
     EXPECT_THAT(editor.getXmlItem().get_xml(), HasSubstr("unit=\"furlong\""));
 }
 
+TEST_F(TextEditDataTest, AVisiblePercentageGoesOutUnconverted)
+{
+    useConverter("bar");
+    load();
+    editor.lblUnit.Caption = "% of range";
+    EXPECT_EQ(editor.FormatForCommunication("3"), "3");
+    EXPECT_EQ(editor.messageUnit(), "bar");
+    EXPECT_THAT(messenger.calls, IsEmpty());
+}
+
 TEST_F(TextEditDataTest, InfIsReportedAndStays)
 {
     useConverter("kPa");
@@ -557,7 +825,9 @@ TEST_F(TextEditDataTest, InfIsReportedAndStays)
     EXPECT_EQ(editor.FormatForCommunication("-Inf"), "-Inf");
     EXPECT_THAT(messenger.errors(),
                 ElementsAre(HasSubstr("TextEdit ctr_travel FormatForCommunication, 13")));
+    messenger.clear();
     EXPECT_EQ(editor.FormatForCommunication("NaN"), "NaN");
+    EXPECT_THAT(messenger.errors(), IsEmpty());
     EXPECT_EQ(editor.FormatForCommunication(""), "");
     EXPECT_EQ(editor.messageUnit(), "bar");
 }
@@ -631,6 +901,30 @@ TEST_F(TextEditDataTest, OtherErrorsDoNothing)
     editor.handleError("errCommunicationError");
     editor.handleError("");
     EXPECT_THAT(messenger.calls, IsEmpty());
+}
+
+TEST_F(TextEditDataTest, ACommunicationErrorEndsTheStepWithTheDevice)
+{
+    load();
+    EXPECT_TRUE(editor.hasSynced());
+    type("7");
+    messenger.clear();
+    editor.handleError("communicationError");
+    EXPECT_FALSE(editor.hasSynced());
+    EXPECT_TRUE(editor.Modified());
+    EXPECT_THAT(states(), ElementsAre(state("syncError")));
+    editor.handleError("communicationError");
+    EXPECT_THAT(states(), ElementsAre(state("syncError"), state("syncError")));
+}
+
+TEST_F(TextEditDataTest, ALabelThatCannotBeTranslatedIsReportedAndTheOldOneStays)
+{
+    translator.texts["ctr_travel"] = "Travel";
+    editor.Localize(translator);
+    translator.failingKey = "ctr_travel";
+    editor.Localize(translator);
+    EXPECT_EQ(editor.labelText(), "Travel");
+    EXPECT_THAT(messenger.errors(), ElementsAre(HasSubstr("TextEdit ctr_travel Localize, 5")));
 }
 
 // --- Faults -----------------------------------------------------------------------------------

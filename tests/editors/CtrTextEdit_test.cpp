@@ -67,6 +67,15 @@ TEST_F(CtrTextEditTest, GoesThroughItsColoursWithCorrectAndModified)
     EXPECT_EQ(editor.txtBox.ForeColor.get(), kRed);
 }
 
+TEST_F(CtrTextEditTest, BecomingCorrectWhileUnmodifiedMakesThePresentTextTheReference)
+{
+    load();
+    type("6");
+    editor.lblModified.Visible = false;
+    editor.setCorrect(true);
+    EXPECT_EQ(editor.originalText(), "6");
+}
+
 TEST_F(CtrTextEditTest, EnabledPaintsTheBox)
 {
     editor.setEnabled(false);
@@ -96,11 +105,31 @@ TEST_F(CtrTextEditTest, EnabledIsIgnoredWhileSilentAndLockedAtTheSameTime)
     EXPECT_TRUE(editor.Enabled());
 }
 
+TEST_F(CtrTextEditTest, EnabledWorksWhileLockedAndNotSilent)
+{
+    editor.setLocked(true);
+    editor.setEnabled(false);
+    EXPECT_FALSE(editor.Enabled());
+}
+
 TEST_F(CtrTextEditTest, ReadingTheBackgroundOfTheSignsGivesZero)
 {
     editor.setSignBackColor(0x123456);
     EXPECT_EQ(editor.SignBackColor(), 0U);
     EXPECT_EQ(editor.BackColor.get(), 0x123456U);
+}
+
+TEST_F(CtrTextEditTest, AnEditIsReportedThenRaisedThenWritten)
+{
+    load();
+    std::string inFile;
+    auto        watch = editor.Change.subscribe([&](const std::string&) {
+        inFile = stored("value");
+        EXPECT_THAT(states(), ElementsAre(state("edited")));
+    });
+    type("6");
+    EXPECT_EQ(inFile, "5.0");
+    EXPECT_EQ(stored("value"), "6");
 }
 
 TEST_F(CtrTextEditTest, ATypedTextIsAnEditUntilTheOriginalIsBack)
@@ -146,6 +175,25 @@ TEST_F(CtrTextEditCommaTest, APointInALocaleWithACommaTurnsIntoAComma)
     EXPECT_EQ(editor.Text(), "4,5");
     EXPECT_TRUE(editor.Correct());
     EXPECT_EQ(stored("value"), "4.5");
+}
+
+TEST_F(CtrTextEditCommaTest, WritingTextTurnsThePointIntoACommaAtOnce)
+{
+    load();
+    editor.setText("7.5");
+    EXPECT_EQ(editor.originalText(), "7,5");
+    EXPECT_FALSE(editor.Modified());
+    EXPECT_THAT(changes, ElementsAre("7,5"));
+}
+
+TEST_F(CtrTextEditCommaTest, OnlyFloatValGoesIntoTheDatafileWithAPoint)
+{
+    load({{"type", "floatVal"}});
+    type("7,5");
+    EXPECT_EQ(stored("value"), "7.5");
+    load({{"type", "floatVal2"}});
+    type("7,5");
+    EXPECT_EQ(stored("value"), "7,5");
 }
 
 TEST_F(CtrTextEditTest, ATextThatIsNoNumberIsWrongAndStays)
@@ -202,6 +250,34 @@ TEST_F(CtrTextEditTest, AnIntegerFieldRefusesAFractionWithAMessageAndTakesTheFoc
     EXPECT_TRUE(editor.txtBox.HasFocus());
 }
 
+TEST_F(CtrTextEditTest, AMessageThatFailsStillGivesTheFocusBack)
+{
+    load({{"type", "integerVal"}});
+    messenger.failOn("ShowMessage");
+    type("6.5");
+    EXPECT_TRUE(editor.txtBox.HasFocus());
+    EXPECT_THAT(messenger.errors(), ElementsAre(HasSubstr("TextEdit ctr_travel txtBox_Change, 5")));
+}
+
+TEST_F(CtrTextEditTest, AnIntegerIsTestedAsItStandsOnScreen)
+{
+    messenger.converter              = &converter;
+    converter.displayUnits["travel"] = "kPa";
+    load({{"type", "integerVal"}});
+    type("250"); // 2.5 bar
+    EXPECT_TRUE(editor.Correct());
+    type("250.5");
+    EXPECT_FALSE(editor.Correct());
+}
+
+TEST_F(CtrTextEditTest, AFractionJustBeyondAnIntegerLimitIsCaughtByTheIntegerTest)
+{
+    load({{"type", "integerVal"}});
+    type("100.5");
+    EXPECT_FALSE(editor.Correct());
+    EXPECT_TRUE(messenger.wasCalled("ShowMessage"));
+}
+
 TEST_F(CtrTextEditTest, OutsideTheLimitsIsWrongWithoutAMessage)
 {
     load({{"type", "integerVal"}});
@@ -220,6 +296,16 @@ TEST_F(CtrTextEditTest, AValueEqualToALimitWithinTheTolerancePasses)
     type("100.001");
     EXPECT_FALSE(editor.Correct());
     type("-0.0008");
+    EXPECT_TRUE(editor.Correct());
+}
+
+TEST_F(CtrTextEditTest, AParameterWithoutUnitIsComparedAsItStands)
+{
+    messenger.converter = &converter;
+    converter.add("bar", "noUnit", 1000);
+    load({{"unit", ""}});
+    editor.lblUnit.Caption = "bar";
+    type("50");
     EXPECT_TRUE(editor.Correct());
 }
 
@@ -261,6 +347,25 @@ TEST_F(CtrTextEditTest, AnOnlineValueOfAReadOnlyParameterLeavesEmptyAllowed)
     load({{"access", "read"}});
     editor.setOnlineData(itemNode("bar", "4"));
     EXPECT_TRUE(editor.allowEmpty());
+    load({{"access", "READWRITE"}}); // writable, yet not the word
+    editor.setOnlineData(itemNode("bar", "4"));
+    EXPECT_TRUE(editor.allowEmpty());
+}
+
+TEST_F(CtrTextEditTest, AnOnlineTextLeavesEmptyAllowed)
+{
+    load({{"type", "stringVal"}, {"value", "a"}});
+    editor.setOnlineData(itemNode("noUnit", "b", "stringVal"));
+    type("");
+    EXPECT_TRUE(editor.Correct());
+}
+
+TEST_F(CtrTextEditTest, PackedAsciiRunsFromTheBlankToTheUnderscore)
+{
+    load({{"type", "stringVal"}, {"value", ""}, {"maxVal", "32"}});
+    editor.ForceHartPackedAscii(true);
+    type(" _`\t\x1f^");
+    EXPECT_EQ(editor.Text(), " _???^");
 }
 
 TEST_F(CtrTextEditTest, PackedAsciiTurnsToUpperCaseAndReplacesWhatHartDoesNotKnow)
@@ -303,6 +408,24 @@ TEST_F(CtrTextEditTest, LosingTheFocusFormatsANumberAgain)
     EXPECT_EQ(editor.Text(), "abc");
 }
 
+TEST_F(CtrTextEditTest, LosingTheFocusLeavesAWrongNumberAsItWasTyped)
+{
+    load();
+    editor.txtBox.focus();
+    type("200");
+    editor.txtBox.blur();
+    EXPECT_EQ(editor.Text(), "200");
+}
+
+TEST_F(CtrTextEditTest, LosingTheFocusLeavesATextThatLooksLikeANumber)
+{
+    load({{"type", "stringVal"}, {"value", ""}, {"maxVal", "32"}});
+    editor.txtBox.focus();
+    type("007");
+    editor.txtBox.blur();
+    EXPECT_EQ(editor.Text(), "007");
+}
+
 TEST_F(CtrTextEditTest, TypingTheOriginalInAnotherFormIsNoEditOnceTheFocusHasGone)
 {
     load();
@@ -320,6 +443,17 @@ TEST_F(CtrTextEditTest, GettingTheFocusSelectsTheWholeText)
     EXPECT_TRUE(editor.txtBox.HasFocus());
     EXPECT_EQ(editor.txtBox.SelStart.get(), 0);
     EXPECT_EQ(editor.txtBox.SelLength.get(), 3);
+}
+
+TEST_F(CtrTextEditTest, TheSelectionStartsInFrontWhereverTheCursorStood)
+{
+    load({{"type", "stringVal"}, {"value", "a"}, {"maxVal", "32"}});
+    editor.txtBox.focus();
+    type("abc");
+    editor.txtBox.blur();
+    EXPECT_EQ(editor.txtBox.SelStart.get(), 3);
+    editor.txtBox.focus();
+    EXPECT_EQ(editor.txtBox.SelStart.get(), 0);
 }
 
 TEST_F(CtrTextEditTest, EnterIsSwallowedAndHandsTheFocusToTheHost)
@@ -473,6 +607,45 @@ TEST_F(PairTest, TheUpperLimitFollowsThePartnerWithEveryKeystroke)
     EXPECT_FALSE(editor.Correct());
     EXPECT_EQ(high.pairLowerLimit(), 10.5);
     EXPECT_FALSE(high.Correct());
+}
+
+TEST_F(PairTest, TheLowerLimitFollowsThePartnerToo)
+{
+    type("3");
+    EXPECT_EQ(high.pairLowerLimit(), 4);
+    messenger.clear();
+    high.txtBox.type("3.5");
+    EXPECT_FALSE(high.Correct());
+    EXPECT_FALSE(editor.Correct()); // and this one is above 2.5
+    EXPECT_THAT(states(), ElementsAre(state("editedError"), state("edited"), state("editedError")));
+    editor.setEnabled(false);
+    high.txtBox.type("3.6");
+    EXPECT_TRUE(high.Correct());
+}
+
+TEST_F(PairTest, APartnersValueMustAlsoKeepItsOwnLimits)
+{
+    type("100.5");
+    EXPECT_FALSE(editor.Correct());
+    editor.setPairLimit(200, "max");
+    EXPECT_FALSE(editor.Correct());
+    editor.setEnabled(true);
+    type("99");
+    editor.setPairLimit(200, "max");
+    EXPECT_TRUE(editor.Correct());
+}
+
+TEST_F(PairTest, ComparesInTheParametersUnit)
+{
+    messenger.converter = &converter;
+    load();
+    editor.setVisibleUnit("kPa");
+    type("500");
+    EXPECT_EQ(high.pairLowerLimit(), 6);
+    editor.setPairLimit(7, "max");
+    EXPECT_TRUE(editor.Correct()); // 5 bar, below 6
+    editor.setPairLimit(5, "max");
+    EXPECT_FALSE(editor.Correct());
 }
 
 TEST_F(PairTest, APartnerThatIsDisabledBlocksNothing)

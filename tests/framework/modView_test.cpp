@@ -659,6 +659,20 @@ TEST_F(ModView, AMissingTranslatorStillShowsTheItems)
     EXPECT_THAT(host.errors(), SizeIs(2)) << "the text and the title";
 }
 
+TEST_F(ModView, AnErrorAsksForTheTranslatorOnce)
+{
+    page.SetErrorData(response(R"(name="g" errorCode="x")"));
+    EXPECT_THAT(host.callsTo("GetTranslator"), SizeIs(1));
+    host.clear();
+    host.failOn("GetTranslator");
+    page.SetErrorData(
+        response(R"(name="g" errorCode="x")", item("a", "noUnit", "integerVal", "1")));
+    EXPECT_THAT(host.errors(),
+                ElementsAre(HasSubstr("setErrorData: , 5,"), HasSubstr("setErrorData: , 91,"),
+                            HasSubstr("setErrorData: , 91,")));
+    EXPECT_THAT(host.callsTo("ShowMessage"), ElementsAre("ShowMessage(, \r\n\"a\"\r\n)"));
+}
+
 TEST_F(ModView, AnEditorThatFailsToTakeAnErrorCostsItselfOnly)
 {
     FakeEditor bad{page, EditorKind::text, "ctr_a"};

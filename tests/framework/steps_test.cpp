@@ -107,7 +107,7 @@ TEST(StepsTest, AMessengerThatIsMissingIsAnObjectNotSet)
     RecordingMessenger host;
     EXPECT_EQ(&existing(&host), &host);
     try {
-        (void)existing(nullptr);
+        (void)existing<Messenger>(nullptr);
         FAIL() << "no failure";
     } catch (const platform::Failure& failure) {
         EXPECT_EQ(failure.number(), platform::kObjectNotSet);

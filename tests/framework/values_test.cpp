@@ -355,6 +355,18 @@ TEST(Values, AnIntegerOutsideItsRangeOverflows)
     }
 }
 
+TEST(Values, ANumberTooLargeForSinglePrecisionOverflows)
+{
+    EXPECT_EQ(values::toSingle(0.1), 0.1F);
+    EXPECT_EQ(values::toSingle(-3e38), -3e38F);
+    EXPECT_EQ(values::toSingle(1e-60), 0.0F);
+    EXPECT_EQ(values::toSingle(kInfinity), std::numeric_limits<float>::infinity());
+    for (const double number : {1e39, -1e39, 1e308}) {
+        EXPECT_EQ(failureOf([&] { (void)values::toSingle(number); }), platform::kOverflow)
+            << number;
+    }
+}
+
 TEST(Values, EveryOccurrenceIsReplacedOnce)
 {
     EXPECT_EQ(values::replaceAll("1.2.3", ".", ","), "1,2,3");
