@@ -16,6 +16,7 @@ struct DateTime {
     int minute = 0;
     int second = 0;
 
+    // NOLINTNEXTLINE(modernize-use-nullptr): the rule misreads a defaulted comparison
     friend auto operator<=>(const DateTime&, const DateTime&) = default;
 };
 
