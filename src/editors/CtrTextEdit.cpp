@@ -112,6 +112,7 @@ void CtrTextEdit::setText(const std::string& text)
 void CtrTextEdit::Uninitialize()
 {
     mDataNode = nullptr;
+    mWriter   = {};
     setText({});
 }
 
@@ -228,9 +229,9 @@ void CtrTextEdit::forcePackedAscii()
 
 void CtrTextEdit::writeBack(const Steps& step)
 {
-    step([&] { mValueWriter.write(mDataNode, FormatForCommunication(txtBox.Text)); });
-    step([&] { mUnitWriter.write(mDataNode, mMessageUnit); });
-    step([&] { mSynchronisedWriter.write(mDataNode, "0"); });
+    step([&] { mWriter.writeValue(mDataNode, FormatForCommunication(txtBox.Text)); });
+    step([&] { mWriter.writeUnit(mDataNode, mMessageUnit); });
+    step([&] { mWriter.markOutOfStep(mDataNode); });
 }
 
 void CtrTextEdit::forwardChanges()

@@ -221,8 +221,8 @@ void EditorBase::writeValue(const Steps& step, const std::string& value)
     if (!mDataNode) {
         return;
     }
-    step([&] { mValueWriter.write(mDataNode, value); });
-    step([&] { mSynchronisedWriter.write(mDataNode, "0"); });
+    step([&] { mWriter.writeValue(mDataNode, value); });
+    step([&] { mWriter.markOutOfStep(mDataNode); });
 }
 
 IXMLDOMDocument EditorBase::itemOf(const Steps& step, const std::string& type,

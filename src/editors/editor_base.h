@@ -148,9 +148,7 @@ protected:
     std::string                mChangeState = "original";
     std::string                mSyncState   = "notRead";
     IXMLDOMNode                mDataNode;
-    documents::AttributeWriter mValueWriter{"value"};
-    documents::AttributeWriter mUnitWriter{"unit"};
-    documents::AttributeWriter mSynchronisedWriter{"synchronised"};
+    documents::ParameterWriter mWriter;
     bool                       mHasSynced = false;
     bool                       mSilent    = false;
 

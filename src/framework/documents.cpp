@@ -308,14 +308,49 @@ std::string itemValue(const IXMLDOMNode& item, const std::string& type)
         .get_text();
 }
 
-void AttributeWriter::write(const IXMLDOMNode& node, const std::string& value)
+/// Forgets what is known of the attributes if it is another parameter or somebody has changed one.
+void ParameterWriter::look(const IXMLDOMNode& parameter)
 {
-    if (!platform::isAttributeOf(mAttribute, node)) {
-        writeAttribute(node, mName, value);
-        mAttribute = attributeNode(node, mName);
-        return;
+    const std::size_t version = platform::attributesVersion(parameter);
+    if (!(mParameter == parameter) || version != mVersion) {
+        mParameter   = parameter;
+        mVersion     = version;
+        mIsUnitKnown = false;
+        mIsMarked    = false;
     }
-    mAttribute.put_value(value);
+}
+
+void ParameterWriter::writeValue(const IXMLDOMNode& parameter, const std::string& value)
+{
+    look(parameter);
+    if (platform::isAttributeOf(mValue, parameter)) {
+        mValue.put_value(value);
+    } else {
+        writeAttribute(parameter, "value", value);
+        mValue = attributeNode(parameter, "value");
+    }
+    mVersion = platform::attributesVersion(parameter);
+}
+
+void ParameterWriter::writeUnit(const IXMLDOMNode& parameter, const std::string& unit)
+{
+    look(parameter);
+    if (!mIsUnitKnown || mUnit != unit) {
+        writeAttribute(parameter, "unit", unit);
+        mUnit        = unit;
+        mIsUnitKnown = true;
+        mVersion     = platform::attributesVersion(parameter);
+    }
+}
+
+void ParameterWriter::markOutOfStep(const IXMLDOMNode& parameter)
+{
+    look(parameter);
+    if (!mIsMarked) {
+        writeAttribute(parameter, "synchronised", "0");
+        mIsMarked = true;
+        mVersion  = platform::attributesVersion(parameter);
+    }
 }
 
 void writeAttribute(const IXMLDOMNode& node, const std::string& name, const std::string& value)

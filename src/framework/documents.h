@@ -71,18 +71,27 @@ inline constexpr const char* kNoUnit = "noUnit";
 /// Writes an attribute, which is added if it is missing. Failure 91 for no node.
 void writeAttribute(const IXMLDOMNode& node, const std::string& name, const std::string& value);
 
-/// Writes one attribute again and again, as an editor does with every keystroke, without searching
-/// for it each time. Whoever replaces or removes the attribute meanwhile is heeded.
-class AttributeWriter {
+/// Writes value, unit and mark of one parameter again and again, as an editor does with every
+/// keystroke, without touching more of the document than has to change. Whoever changes, replaces
+/// or removes an attribute meanwhile is heeded.
+class ParameterWriter {
 public:
-    /// `name` must be a literal.
-    explicit AttributeWriter(const char* name) : mName(name) {}
-    /// As `writeAttribute`.
-    void write(const IXMLDOMNode& node, const std::string& value);
+    /// Attribute `value`. As `writeAttribute`, like the others.
+    void writeValue(const IXMLDOMNode& parameter, const std::string& value);
+    /// Attribute `unit`.
+    void writeUnit(const IXMLDOMNode& parameter, const std::string& unit);
+    /// Attribute `synchronised`, to "0": not in step with the device.
+    void markOutOfStep(const IXMLDOMNode& parameter);
 
 private:
-    const char* mName;
-    IXMLDOMNode mAttribute;
+    void look(const IXMLDOMNode& parameter);
+
+    IXMLDOMNode mParameter;
+    IXMLDOMNode mValue; ///< the attribute
+    std::size_t mVersion = 0;
+    std::string mUnit; ///< as it stands there while `mIsUnitKnown`
+    bool        mIsUnitKnown = false;
+    bool        mIsMarked    = false;
 };
 
 // --- Items that a control gives back. ---------------------------------------------------------

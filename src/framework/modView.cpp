@@ -157,9 +157,12 @@ void setOfflineData(IQornView& view, const IXMLDOMNode& datafile)
 {
     Messenger*  messenger = messengerOf(view);
     const Steps step{messenger, " modView setOfflineData"};
-    const Steps unheard = silentSteps();
-    for (platform::Widget* widget : controlsOf(step, view)) {
-        const std::string tag = widget->Tag;
+    const Steps unheard  = silentSteps();
+    const auto  controls = controlsOf(step, view);
+    for (std::size_t place = 0; place < controls.size(); ++place) {
+        announceNext(controls, place);
+        platform::Widget* widget = controls[place];
+        const std::string tag    = widget->Tag;
         if (auto* editor = boundEditor(*widget)) {
             offlineEditor(step, messenger, *editor, tag, datafile);
         } else if (auto* label = dynamic_cast<DateLabel*>(widget)) {
@@ -183,9 +186,12 @@ void setOnlineData(IQornView& view, const IXMLDOMNode& response)
     const Steps       step{messengerOf(view), "modView setOnlineData: "};
     const std::string responseName =
         step.text([&] { return documents::responseAttribute(response, "name"); });
-    for (platform::Widget* widget : controlsOf(step, view)) {
-        const std::string tag  = widget->Tag;
-        auto*             text = dynamic_cast<platform::TextBox*>(widget);
+    const auto controls = controlsOf(step, view);
+    for (std::size_t place = 0; place < controls.size(); ++place) {
+        announceNext(controls, place);
+        platform::Widget* widget = controls[place];
+        const std::string tag    = widget->Tag;
+        auto*             text   = dynamic_cast<platform::TextBox*>(widget);
         if (text != nullptr && isBound(tag)) {
             const auto item = step.value(
                 IXMLDOMNode{}, [&] { return documents::findItem(response, nameIn(tag)); });

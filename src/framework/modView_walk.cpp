@@ -28,6 +28,24 @@ platform::WidgetList controlsOf(const Steps& step, IQornView& view)
     return step.value(platform::WidgetList{}, [&] { return view.GetControls(); });
 }
 
+void announceNext(const platform::WidgetList& controls, std::size_t place) noexcept
+{
+#if defined(__GNUC__)
+    constexpr std::size_t kCacheLine = 64;
+    constexpr std::size_t kEditor    = 3072; // what the largest editor holds in one piece
+    constexpr std::size_t kAhead     = 2;
+    if (place + kAhead < controls.size()) {
+        const char* const next = reinterpret_cast<const char*>(controls[place + kAhead]);
+        for (std::size_t at = 0; at < kEditor; at += kCacheLine) {
+            __builtin_prefetch(next + at); // never fails, whatever lies there
+        }
+    }
+#else
+    (void)controls;
+    (void)place;
+#endif
+}
+
 bool isBound(const std::string& tag)
 {
     return tag.starts_with(kEditorPrefix);

@@ -18,6 +18,10 @@ inline constexpr const char* kDatePrefix   = "date_";
 /// the view fails to give it.
 [[nodiscard]] platform::WidgetList controlsOf(const Steps& step, IQornView& view);
 
+/// Asks the memory for the control two behind the one at `place`, so that it is there when the walk
+/// comes to it: on a page of thousands the walk waits for little else.
+void announceNext(const platform::WidgetList& controls, std::size_t place) noexcept;
+
 /// Whether the tag is "ctr_" + parameter name.
 [[nodiscard]] bool isBound(const std::string& tag);
 /// The name behind the first four characters.

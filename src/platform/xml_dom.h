@@ -217,6 +217,9 @@ constexpr std::size_t kMaxDocumentBytes = 64U * 1024U * 1024U;
 /// document will do as well.
 /// The attribute of no namespace with this name, or nothing: what `./@name` selects.
 [[nodiscard]] IXMLDOMNode attributeNode(const IXMLDOMNode& element, std::string_view name);
+/// A number that changes whenever an attribute of this element comes, goes, or is written: whoever
+/// has written one sees by it that nobody else has since. Counts while somebody holds the element.
+[[nodiscard]] std::size_t attributesVersion(const IXMLDOMNode& element);
 /// Whether the attribute belongs to this element at present. False for empty nodes.
 [[nodiscard]] bool isAttributeOf(const IXMLDOMNode& attribute, const IXMLDOMNode& element) noexcept;
 /// The first child element of this namespace and name, or nothing.

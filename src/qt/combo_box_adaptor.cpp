@@ -18,8 +18,14 @@ class Combo : public QComboBox {
 public:
     using QComboBox::QComboBox;
 
+    /// A list that lets nobody choose stays closed.
+    void setLocked(bool locked) { mLocked = locked; }
+
     void showPopup() override
     {
+        if (mLocked) {
+            return;
+        }
         constexpr int kMargin = 24;
         view()->setMinimumWidth(view()->sizeHintForColumn(0) + kMargin);
         QComboBox::showPopup();
@@ -47,11 +53,12 @@ protected:
 
 private:
     static constexpr int kTextMargin = 4;
+    bool                 mLocked     = false;
 };
 
-class ComboAdaptor : public KindAdaptor<platform::ComboBox, QComboBox> {
+class ComboAdaptor : public KindAdaptor<platform::ComboBox, Combo> {
 public:
-    ComboAdaptor(Screen& screen, platform::ComboBox& model, QComboBox* box)
+    ComboAdaptor(Screen& screen, platform::ComboBox& model, Combo* box)
         : KindAdaptor(screen, model, box)
     {
         box->setInsertPolicy(QComboBox::NoInsert);
@@ -75,6 +82,7 @@ public:
         Adaptor::update();
         const QSignalBlocker quiet(shown());
         showEditable();
+        shown()->setLocked(kind().Locked);
         // A box that is not editable is painted as a button by many styles.
         showColors(kind().Editable ? QPalette::Text : QPalette::ButtonText,
                    kind().Editable ? QPalette::Base : QPalette::Button);

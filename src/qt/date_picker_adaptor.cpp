@@ -3,6 +3,7 @@
 #include "qt/text.h"
 
 #include <QDateTimeEdit>
+#include <QLineEdit>
 #include <QLocale>
 #include <QSignalBlocker>
 
@@ -70,7 +71,23 @@ protected:
     [[nodiscard]] bool takesText() const override { return true; }
     [[nodiscard]] bool changesByWheel() const override { return true; }
 
+    bool otherEvent(QEvent& event) override
+    {
+        // The chosen section stays marked otherwise, as if it still had the focus.
+        if (event.type() == QEvent::FocusOut) {
+            QMetaObject::invokeMethod(this, [this] { unmark(); }, Qt::QueuedConnection);
+        }
+        return false;
+    }
+
 private:
+    void unmark()
+    {
+        if (model() != nullptr && !shown()->hasFocus()) {
+            shown()->findChild<QLineEdit*>()->deselect();
+        }
+    }
+
     [[nodiscard]] platform::PickerFormat format() const
     {
         return static_cast<platform::PickerFormat>(kind().Format.get());

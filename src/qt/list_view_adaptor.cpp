@@ -122,6 +122,14 @@ public:
 protected:
     void note(const platform::WidgetChange& change) override { mRows->note(change); }
 
+    bool otherEvent(QEvent& event) override
+    {
+        if (event.type() == QEvent::FocusIn) {
+            QMetaObject::invokeMethod(this, [this] { refresh(); }, Qt::QueuedConnection);
+        }
+        return false;
+    }
+
     bool unclaimedKey(const QKeyEvent& event) override
     {
         // The space bar checks the current row, on whatever column the cursor is.
@@ -171,10 +179,18 @@ private:
             }
             shown()->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
         }
-        const int current = kind().SelectedItem();
+        // Without a selection the cursor stays where it is; a list with the focus always has one,
+        // so that the space bar means a row.
+        int current = kind().SelectedItem();
+        if (current == 0) {
+            current = shown()->currentIndex().row() + 1;
+        }
+        if (current == 0 && shown()->hasFocus() && mRows->rowCount() > 0) {
+            current = 1;
+        }
         if (current != shown()->currentIndex().row() + 1) {
-            const QModelIndex index = current > 0 ? mRows->index(current - 1, 0) : QModelIndex{};
-            shown()->selectionModel()->setCurrentIndex(index, QItemSelectionModel::NoUpdate);
+            shown()->selectionModel()->setCurrentIndex(mRows->index(current - 1, 0),
+                                                       QItemSelectionModel::NoUpdate);
         }
     }
 

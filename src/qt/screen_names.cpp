@@ -1,5 +1,6 @@
 // What assistive programs are told: the label, the unit and the state of every widget, taken from
 // the labels around it, as the form has no other tie between them.
+#include "platform/buttons.h"
 #include "platform/label.h"
 #include "qt/screen.h"
 #include "qt/text.h"
@@ -27,6 +28,12 @@ bool isUnit(const platform::Widget& widget)
     return widget.Name == "lblUnit";
 }
 
+bool isMark(const platform::Widget& widget)
+{
+    return dynamic_cast<const platform::CheckBox*>(&widget) != nullptr ||
+           dynamic_cast<const platform::OptionButton*>(&widget) != nullptr;
+}
+
 bool onRow(const Adaptor& adaptor, const QRect& row)
 {
     const int middle = adaptor.widget()->geometry().center().y();
@@ -39,8 +46,10 @@ QString Screen::labelBeside(const Adaptor& container, const Adaptor& adaptor) co
 {
     const QRect            place = adaptor.widget()->geometry();
     const platform::Label* left  = nullptr;
+    const platform::Label* right = nullptr;
     const platform::Label* above = nullptr;
     QRect                  leftPlace;
+    QRect                  rightPlace;
     QRect                  abovePlace;
     for (const Adaptor* other : container.children()) {
         const platform::Label* const label = labelOf(*other);
@@ -53,6 +62,10 @@ QString Screen::labelBeside(const Adaptor& container, const Adaptor& adaptor) co
                 (left == nullptr || where.left() > leftPlace.left())) {
                 left      = label;
                 leftPlace = where;
+            } else if (where.left() > place.left() &&
+                       (right == nullptr || where.left() < rightPlace.left())) {
+                right      = label;
+                rightPlace = where;
             }
         } else if (where.bottom() <= place.top() + kAbove / 2 &&
                    where.bottom() >= place.top() - kAbove && where.left() <= place.right() &&
@@ -61,6 +74,10 @@ QString Screen::labelBeside(const Adaptor& container, const Adaptor& adaptor) co
             above      = label;
             abovePlace = where;
         }
+    }
+    // A mark stands before its text, a box behind it.
+    if (right != nullptr && isMark(*adaptor.model())) {
+        return toQt(right->Caption);
     }
     if (left != nullptr) {
         return toQt(left->Caption);

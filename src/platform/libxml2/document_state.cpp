@@ -157,6 +157,7 @@ void DocumentState::lift(xmlNode* node)
         mOrphans.erase(node);
         return;
     }
+    noteAttributeChange(node);
     xmlUnlinkNode(node);
     if (top != root()) {
         subtract(top, countHeld(node));
@@ -165,6 +166,7 @@ void DocumentState::lift(xmlNode* node)
 
 void DocumentState::place(xmlNode* node)
 {
+    noteAttributeChange(node);
     if (xmlNode* top = topOf(node); top != root()) {
         if (const std::size_t held = countHeld(node); held != 0) {
             mOrphans[top] += held;
@@ -242,6 +244,17 @@ void DocumentState::replaceContent(xmlDoc* fresh)
         linkChild(root(), child);
     }
     ++version;
+}
+
+void noteAttributeChange(const xmlNode* node) noexcept
+{
+    const xmlNode* attribute = isAttribute(node) ? node : node->parent;
+    if (attribute == nullptr || !isAttribute(attribute) || attribute->parent == nullptr) {
+        return;
+    }
+    if (NodeRef* element = refOf(attribute->parent); element != nullptr) {
+        ++element->attributesVersion;
+    }
 }
 
 xmlNode* nextInTree(xmlNode* node, const xmlNode* tree)

@@ -25,6 +25,7 @@ struct NodeRef : std::enable_shared_from_this<NodeRef> {
 
     std::shared_ptr<DocumentState> document;
     xmlNode*                       node;
+    std::size_t                    attributesVersion = 0;
 };
 
 struct NamespaceDeleter {
@@ -127,6 +128,9 @@ void linkAttribute(xmlNode* element, xmlAttr* attribute, xmlAttr* behind = nullp
 {
     return text == nullptr ? std::string_view{} : reinterpret_cast<const char*>(text);
 }
+/// Tells the element that one of its attributes changes: `node` is the attribute or a text in it.
+/// Does nothing for any other node.
+void noteAttributeChange(const xmlNode* node) noexcept;
 /// The name with its prefix, as it is written.
 [[nodiscard]] std::string qualifiedName(const xmlNode* node);
 /// The text of the node and all below it; comments and processing instructions below are left out.

@@ -223,6 +223,11 @@ IXMLDOMNode attributeNode(const IXMLDOMNode& element, std::string_view name)
     return {};
 }
 
+std::size_t attributesVersion(const IXMLDOMNode& element)
+{
+    return reach(element.ref()).attributesVersion;
+}
+
 bool isAttributeOf(const IXMLDOMNode& attribute, const IXMLDOMNode& element) noexcept
 {
     return attribute && element && detail::isAttribute(attribute.ref()->node) &&

@@ -267,6 +267,7 @@ void IXMLDOMNode::put_nodeValue(std::string_view value) const
     if (isKey(ref.node)) {
         ++ref.document->version;
     }
+    detail::noteAttributeChange(ref.node);
     if (!isAttribute(ref.node)) {
         xmlNodeSetContentLen(ref.node, xml(value.data()), static_cast<int>(value.size()));
         return;
