@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <functional>
 #include <limits>
+#include <string_view>
 
 namespace quill::probe {
 
@@ -91,10 +92,18 @@ platform::DateTime asClock(const Json& value)
 
 platform::Locale asLocale(const Json& value)
 {
-    const Json&            object = asObject(value);
-    const platform::Locale start;
-    return {textOr(object, "decimal", start.decimal), textOr(object, "shortDate", start.shortDate),
-            textOr(object, "longTime", start.longTime)};
+    const Json&      object = asObject(value);
+    platform::Locale locale;
+    locale.decimal   = textOr(object, "decimal", locale.decimal);
+    locale.shortDate = textOr(object, "shortDate", locale.shortDate);
+    locale.longTime  = textOr(object, "longTime", locale.longTime);
+    // Recordings write the half of the day as the system does that they were made on.
+    for (const std::string_view mark : {"AM/PM", "tt"}) {
+        if (const auto place = locale.longTime.find(mark); place != std::string::npos) {
+            locale.longTime.replace(place, mark.size(), "AP");
+        }
+    }
+    return locale;
 }
 
 platform::IXMLDOMDocument asDocument(const Json& value)

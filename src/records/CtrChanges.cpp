@@ -162,7 +162,7 @@ void CtrChanges::Localize(Translator& translator)
     }
     int column = 0;
     for (const platform::Label* heading : {&lblParameter, &lblOld, &lblNew}) {
-        lstChanges.setColumnText(++column, heading->Caption);
+        step([&] { lstChanges.setColumnText(++column, heading->Caption); });
     }
 }
 

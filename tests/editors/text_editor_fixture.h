@@ -82,4 +82,22 @@ protected:
     platform::Subscription   heard;
 };
 
+/// The same with a converter at hand and loads that are listened to.
+class TextEditDataTest : public TextEditorTest {
+protected:
+    using TextEditorTest::TextEditorTest;
+    void useConverter(const std::string& display = "psi")
+    {
+        messenger.converter              = &converter;
+        converter.displayUnits["travel"] = display;
+    }
+    void loadQuietly(const Attributes& given)
+    {
+        document = datafile(parameterXml(given));
+        messenger.clear();
+        changes.clear();
+        editor.setOfflineData(parameter());
+    }
+};
+
 } // namespace quill::test

@@ -222,6 +222,19 @@ TEST(ProbeToolkit, LocaleTextWidthKeysAndDialogsAreTheHosts)
     EXPECT_EQ(toolkit.askForFile({}), "/tmp/a.tst");
 }
 
+TEST(ProbeToolkit, TheHalfOfTheDayIsWrittenInAnyUsualWay)
+{
+    for (const char* mark : {"AP", "AM/PM", "tt"}) {
+        Probe run;
+        run(std::string{"{'op':'host','locale':{'shortDate':'M/d/yyyy','longTime':'h:mm:ss "} +
+            mark + "'}}");
+        EXPECT_EQ(run.result("{'op':'call','on':'modTools','method':'LocalizeDatafileDate',"
+                             "'args':['05.06.2021 15:02:03']}"),
+                  "6/5/2021 3:02:03 PM")
+            << mark;
+    }
+}
+
 TEST(ProbeToolkit, WhatNobodySeesIsReadFromTheToolkit)
 {
     Probe run;

@@ -144,6 +144,15 @@ TEST_F(CtrChangesTest, OneTextThatFailsCostsOneText)
                                            "Invalid procedure call or argument)"));
 }
 
+TEST_F(CtrChangesTest, AColumnThatIsGoneCostsItsHeading)
+{
+    dialog.lstChanges.setColumnHeaders({{"Only", "", 100}});
+    dialog.Localize(translator);
+    EXPECT_EQ(dialog.lstChanges.ColumnHeaders()[0].Text, "t:parameter");
+    EXPECT_THAT(host.errors(), ElementsAre(HasSubstr("CtrChanges: ILocalizable_Localize, 9, "),
+                                           HasSubstr("CtrChanges: ILocalizable_Localize, 9, ")));
+}
+
 TEST_F(CtrChangesTest, ShowingAsksForTheModifiedValues)
 {
     dialog.chkChanges.Value = 1;
