@@ -35,6 +35,8 @@ LogPane::LogPane(ShellMessenger& messenger, QWidget* parent)
     mLines->setColumnCount(kColumns);
     mLines->setRootIsDecorated(false);
     mLines->setUniformRowHeights(true);
+    mLines->setAllColumnsShowFocus(true);
+    mLines->setTabKeyNavigation(false);
     mLines->setSelectionMode(QAbstractItemView::ExtendedSelection);
     mLines->header()->setStretchLastSection(true);
     mLines->setFrameShape(QFrame::NoFrame);
@@ -78,6 +80,16 @@ LogPane::LogPane(ShellMessenger& messenger, QWidget* parent)
                 add(Kind::detail, QString("%1 %2").arg(category).arg(text.simplified()));
             });
     localize();
+}
+
+void LogPane::beLastInTabOrder()
+{
+    QWidget* last = window()->previousInFocusChain();
+    for (QWidget* widget : {static_cast<QWidget*>(mDetails), static_cast<QWidget*>(mClear),
+                            static_cast<QWidget*>(mLines)}) {
+        setTabOrder(last, widget);
+        last = widget;
+    }
 }
 
 void LogPane::add(Kind kind, const QString& text)

@@ -22,8 +22,10 @@ public:
     void add(Kind kind, const QString& text);
     /// Texts of the lines that are there, hidden ones included.
     [[nodiscard]] QStringList lines() const;
-    void                      clear();
-    void                      localize();
+    /// Behind all that the window has got so far.
+    void beLastInTabOrder();
+    void clear();
+    void localize();
 
 private:
     void showDetails(bool shown);

@@ -50,7 +50,7 @@ int main(int argc, char** argv)
     }
     const QApplication application(argc, argv);
     QApplication::setApplicationName(QStringLiteral("quill-shell"));
-    QApplication::setApplicationVersion(QStringLiteral("0.1.0"));
+    QApplication::setApplicationVersion(QStringLiteral(QUILL_VERSION));
 
     shell::Options options = shell::readOptions(QApplication::arguments());
     switch (options.wish) {

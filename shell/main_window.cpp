@@ -10,6 +10,7 @@
 #include <QComboBox>
 #include <QFileInfo>
 #include <QLabel>
+#include <QLibraryInfo>
 #include <QMenu>
 #include <QProgressBar>
 #include <QScrollArea>
@@ -72,6 +73,7 @@ void MainWindow::makeBook()
     mMessenger.localize(*mBook);
     mView = new qt::View(*mBook);
     mScroll->setWidget(mView);
+    mLog->beLastInTabOrder();
     showPage(shown.empty() ? mPages.front().tag : shown);
     nameEditors();
     fitBook();
@@ -101,12 +103,18 @@ void MainWindow::fitBook()
 
 void MainWindow::showPage(const std::string& tag)
 {
+    if (turnTo(tag)) {
+        mBook->RequestFocus();
+    }
+}
+
+bool MainWindow::turnTo(const std::string& tag)
+{
     if (!mBook || mBook->page(tag) == nullptr || !mBook->LeaveSelectedView()) {
-        return;
+        return false;
     }
     mBook->SetSelectedView(tag);
     mView->flush();
-    mBook->RequestFocus();
     mScroll->verticalScrollBar()->setValue(0);
     for (QTreeWidgetItemIterator item(mTree); *item != nullptr; ++item) {
         if ((*item)->data(0, Qt::UserRole).toString().toStdString() == tag) {
@@ -115,19 +123,7 @@ void MainWindow::showPage(const std::string& tag)
             mTitle->setText((*item)->text(0));
         }
     }
-}
-
-bool MainWindow::pageHasEdits() const
-{
-    const Page* const page = mBook->shownPage();
-    for (const auto& section : page->description().sections) {
-        for (const auto& row : section.rows) {
-            if (page->find(row.parameter)->Modified()) {
-                return true;
-            }
-        }
-    }
-    return false;
+    return true;
 }
 
 bool MainWindow::readPage()
@@ -136,8 +132,9 @@ bool MainWindow::readPage()
         return false;
     }
     const auto& texts = mMessenger.texts();
-    if (pageHasEdits() && !mDialogs.askQuestion(texts.text("shell_readPage").remove(u'&'),
-                                                texts.text("shell_readQuestion"))) {
+    if (mBook->shownPage()->hasEdits() &&
+        !mDialogs.askQuestion(asTitle(texts.text("shell_readPage")),
+                              texts.text("shell_readQuestion"))) {
         return false;
     }
     bool asked = false;
@@ -162,8 +159,23 @@ void MainWindow::setLanguage(const std::string& language)
     mMessenger.setLanguage(language);
 }
 
+QString MainWindow::asTitle(QString command)
+{
+    return command.remove(u'&').remove(u'…');
+}
+
+void MainWindow::localizeQt()
+{
+    QCoreApplication::removeTranslator(&mQtTexts);
+    if (mQtTexts.load("qtbase_" + mMessenger.texts().languageCode(),
+                      QLibraryInfo::path(QLibraryInfo::TranslationsPath))) {
+        QCoreApplication::installTranslator(&mQtTexts);
+    }
+}
+
 void MainWindow::localize()
 {
+    localizeQt();
     const auto& texts = mMessenger.texts();
     for (const auto& [action, text, tip] : mCommands) {
         action->setText(texts.text(text));
@@ -259,7 +271,6 @@ void MainWindow::showState()
     const auto  edits  = static_cast<int>(open ? store.editCount() : 0);
     const bool  mayAct = !online || mMessenger.GetUserLevel() >= kMaintenanceLevel;
 
-    command("online")->setChecked(online);
     command("online")->setEnabled(open);
     command("online")->setIcon(icon(online ? Symbol::disconnect : Symbol::connect));
     command("online")->setText(texts.text(online ? "shell_disconnect" : "shell_connect"));
@@ -270,7 +281,7 @@ void MainWindow::showState()
     command("saveAs")->setEnabled(open);
     QAction* const changes = command("changes");
     const QString  name    = texts.text("shell_changes").remove(u'&');
-    changes->setIconText(edits > 0 ? QString("%1 (%2)").arg(name).arg(edits) : name);
+    changes->setIconText(edits > 0 ? QString("%1 (%2)").arg(asTitle(name)).arg(edits) : name);
     changes->setEnabled(open && mayAct && !busy);
     changes->setToolTip(texts.text(mayAct ? "shell_changesTip" : "shell_userLevelTooLow"));
 
@@ -300,6 +311,15 @@ void MainWindow::chooseUnits(const std::string& system)
     }
     mMessenger.informUnitChanges();
     fitBook();
+}
+
+void MainWindow::showAbout()
+{
+    const auto& texts = mMessenger.texts();
+    mDialogs.showMessage(
+        asTitle(texts.text("shell_about")),
+        texts.text("shell_aboutText") + "\n\n" +
+            texts.text("shell_aboutVersion").arg(QCoreApplication::applicationVersion()));
 }
 
 void MainWindow::setScheme(ColorScheme scheme)

@@ -11,6 +11,7 @@
 
 #include <QMainWindow>
 #include <QTimer>
+#include <QTranslator>
 
 #include <memory>
 #include <vector>
@@ -40,7 +41,7 @@ public:
     [[nodiscard]] ChangesDialog&  changesDialog() { return *mChangesDialog; }
     [[nodiscard]] LogPane&        log() { return *mLog; }
     /// A command by its name: "open", "openSample", "save", "saveAs", "quit", "online", "readPage",
-    /// "readAll", "changes", "dark".
+    /// "readAll", "changes", "dark", "about".
     [[nodiscard]] QAction* command(const char* name) const;
 
     /// A datafile that is refused is told to the user, and the old one stays; false then.
@@ -75,18 +76,24 @@ private:
     [[nodiscard]] bool mayLoseChanges();
     void               tellFailure(const platform::Failure& failure);
 
+    /// False if the present page may not be left. The focus stays where it is.
+    bool turnTo(const std::string& tag);
     void makeBook();
     void releaseBook();
     void fitBook();
     void localize();
-    void nameEditors();
-    void chooseUnits(const std::string& system);
+    /// For what Qt says by itself: the box for files, the menu of a text box.
+    void localizeQt();
+    void showAbout();
+    /// A command's text without its menu key and the dots.
+    static QString asTitle(QString command);
+    void           nameEditors();
+    void           chooseUnits(const std::string& system);
     /// Brings commands, status line and title up to date once the present burst of reports is over.
     void                  showStateSoon();
     void                  showState();
     [[nodiscard]] QString datafileName();
     [[nodiscard]] QString deviceName();
-    [[nodiscard]] bool    pageHasEdits() const;
 
     ShellMessenger                 mMessenger;
     MessageBoxes                   mOwnDialogs;
@@ -120,6 +127,7 @@ private:
     QLabel*             mEdits  = nullptr;
     QProgressBar*       mBusy   = nullptr;
     QTimer              mStateTimer;
+    QTranslator         mQtTexts;
 };
 
 } // namespace quill::shell

@@ -63,7 +63,8 @@ void MainWindow::buildActions()
         const auto& texts = mMessenger.texts();
         const auto  filter =
             texts.text("shell_datafiles") + " (*.xml);;" + texts.text("shell_allFiles") + " (*)";
-        if (const auto path = mDialogs.askForFile(false, texts.text("shell_openTip"), filter)) {
+        if (const auto path =
+                mDialogs.askForFile(false, asTitle(texts.text("shell_open")), filter)) {
             openDatafile(*path);
         }
     });
@@ -82,9 +83,9 @@ void MainWindow::buildActions()
     connect(quit, &QAction::triggered, this, &QWidget::close);
 
     QAction* const online = addCommand("online", "shell_connect", "shell_connectTip");
-    online->setCheckable(true);
     online->setShortcut(Qt::CTRL | Qt::Key_L);
-    connect(online, &QAction::triggered, this, [this](bool on) { mMessenger.setOnline(on); });
+    connect(online, &QAction::triggered, this,
+            [this] { mMessenger.setOnline(!mMessenger.isOnline()); });
     QAction* const read = addCommand("readPage", "shell_readPage", "shell_readPageTip");
     read->setIcon(icon(Symbol::read));
     read->setShortcut(QKeySequence::Refresh);
@@ -100,6 +101,10 @@ void MainWindow::buildActions()
     dark->setCheckable(true);
     connect(dark, &QAction::triggered, this,
             [this](bool on) { setScheme(on ? ColorScheme::dark : ColorScheme::light); });
+
+    QAction* const about = addCommand("about", "shell_about", "shell_about");
+    about->setMenuRole(QAction::AboutRole);
+    connect(about, &QAction::triggered, this, &MainWindow::showAbout);
 
     mUnits = new QActionGroup(this);
     for (const auto& system : HartUnitConverter::systems()) {
@@ -133,6 +138,7 @@ void MainWindow::buildMenus()
     units->setObjectName("shell_menuUnits");
     units->addActions(mUnits->actions());
     mMenus.push_back(units);
+    menu("shell_menuHelp", {"about"});
 }
 
 void MainWindow::buildToolBar()
@@ -185,6 +191,7 @@ void MainWindow::buildCentre()
     mTree->setObjectName("pages");
     mTree->setFrameShape(QFrame::NoFrame);
     mTree->setIndentation(14);
+    mTree->setAllColumnsShowFocus(true);
     mTree->header()->hide();
     std::map<std::string, QTreeWidgetItem*> items;
     for (const auto& page : mPages) {
@@ -197,8 +204,20 @@ void MainWindow::buildCentre()
     }
     mTree->expandAll();
     connect(mTree, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
-        if (item != nullptr) {
-            showPage(item->data(0, Qt::UserRole).toString().toStdString());
+        if (item == nullptr) {
+            return;
+        }
+        const std::string tag = item->data(0, Qt::UserRole).toString().toStdString();
+        // Who walks the tree by keys walks on, and enters the page when he says so.
+        if (mTree->hasFocus() && QApplication::mouseButtons() == Qt::NoButton) {
+            turnTo(tag);
+        } else {
+            showPage(tag);
+        }
+    });
+    connect(mTree, &QTreeWidget::itemActivated, this, [this] {
+        if (mBook) {
+            mBook->RequestFocus();
         }
     });
 
@@ -209,6 +228,7 @@ void MainWindow::buildCentre()
     mTitle->setContentsMargins(kMargin, kMargin, kMargin, 0);
     mScroll = new QScrollArea;
     mScroll->setFrameShape(QFrame::NoFrame);
+    mScroll->setFocusPolicy(Qt::NoFocus); // it could not show it
     mScroll->setWidgetResizable(true);
     mScroll->installEventFilter(this);
     auto* page   = new QWidget;

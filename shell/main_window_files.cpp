@@ -56,7 +56,7 @@ bool MainWindow::saveAs(const QString& path)
     const auto& texts  = mMessenger.texts();
     QString     target = path;
     if (target.isEmpty()) {
-        const auto asked = mDialogs.askForFile(true, texts.text("shell_saveTip"),
+        const auto asked = mDialogs.askForFile(true, asTitle(texts.text("shell_saveAs")),
                                                texts.text("shell_datafiles") + " (*.xml)");
         if (!asked) {
             return false;

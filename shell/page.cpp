@@ -32,22 +32,27 @@ std::int32_t textWidth(const std::string& text)
     return platform::Toolkit::current().textWidth(text);
 }
 
-/// Width of the box that suits what the editor can hold.
-std::int32_t boxWidth(const EditorBase& editor)
+/// Width of the box that shows every entry of a list.
+std::int32_t listWidth(const EditorBase& editor)
 {
+    std::int32_t width = kBoxWidth;
     if (const auto* combo = dynamic_cast<const CtrComboEdit*>(&editor)) {
-        std::int32_t width = kBoxWidth;
         for (const auto& entry : combo->cboBox.List()) {
             width = std::max(width, textWidth(entry) + kArrowWidth);
         }
-        return width;
     }
+    return width;
+}
+
+/// Width of the box that suits what the editor can hold, beside others of a usual width.
+std::int32_t boxWidth(const EditorBase& editor, std::int32_t usual)
+{
     if (const auto* text = dynamic_cast<const CtrTextEdit*>(&editor)) {
         const bool isLong =
             text->txtBox.MaxLength > kLongText || textWidth(text->Text()) > kBoxWidth - kGap;
-        return isLong ? kWideBox : kBoxWidth;
+        return isLong ? std::max(kWideBox, usual) : usual;
     }
-    return kBoxWidth;
+    return usual;
 }
 
 std::int32_t unitWidth(const EditorBase& editor)
@@ -146,7 +151,10 @@ void Page::addReading(Section& section)
         section.frame,
         platform::Design{.Name = "cmdRead_" + group, .Tag = "shell_readSection", .Enabled = false});
     section.onRead = section.cmdRead->Click.subscribe([this, group] {
-        if (Messenger* messenger = GetMessenger()) {
+        Messenger* const messenger = GetMessenger();
+        if (messenger != nullptr &&
+            (!hasEdits(group) || messenger->AskQuestion("shell_readSection",
+                                                        "shell_readQuestion") == kPositiveAnswer)) {
             messenger->ExecuteNamedRequest(group, "reading", 0, 0);
         }
     });
@@ -200,6 +208,18 @@ std::vector<std::string> Page::groups() const
     return result;
 }
 
+bool Page::hasEdits(const std::string& group) const
+{
+    for (const auto& section : mSections) {
+        for (const auto& row : section->rows) {
+            if (row->editor->Modified() && (group.empty() || row->editor->ContextTag() == group)) {
+                return true;
+            }
+        }
+    }
+    return false;
+}
+
 // --- Layout -----------------------------------------------------------------------------------
 
 std::int32_t Page::labelWidth() const
@@ -218,17 +238,22 @@ std::int32_t Page::fill(Section& section, std::int32_t labelWidth)
     const std::int32_t editorLeft = kMargin + labelWidth + kGap;
     std::int32_t       needed     = 0;
     std::int32_t       top        = kTitleHeight;
+    std::int32_t       usual      = kBoxWidth;
     for (const auto& row : section.rows) {
-        row->label.Left    = kMargin;
-        row->label.Top     = top + kTextTop;
-        row->label.Width   = labelWidth;
-        row->label.Height  = kTextHeight;
-        row->editor->Width = boxWidth(*row->editor) + unitWidth(*row->editor) + kSignsWidth;
-        row->frame.Left    = editorLeft;
-        row->frame.Top     = top;
-        row->frame.Height  = kRowHeight;
+        usual = std::max(usual, listWidth(*row->editor));
+    }
+    for (const auto& row : section.rows) {
+        row->label.Left        = kMargin;
+        row->label.Top         = top + kTextTop;
+        row->label.Width       = labelWidth;
+        row->label.Height      = kTextHeight;
+        const std::int32_t box = boxWidth(*row->editor, usual);
+        row->editor->Width     = box + unitWidth(*row->editor) + kSignsWidth;
+        row->frame.Left        = editorLeft;
+        row->frame.Top         = top;
+        row->frame.Height      = kRowHeight;
         // A unit that comes with a value later on finds its room.
-        row->frame.Width = boxWidth(*row->editor) + kUnitRoom + kSignsWidth;
+        row->frame.Width = box + kUnitRoom + kSignsWidth;
         needed           = std::max(needed, editorLeft + row->frame.Width.get());
         top += kRowPitch;
     }

@@ -33,6 +33,8 @@ public:
     /// The request groups that the parameters of the page belong to, in the order of the page.
     /// Known once the datafile was delivered.
     [[nodiscard]] std::vector<std::string> groups() const;
+    /// Whether reading this group, or any for the empty name, would replace edits of the page.
+    [[nodiscard]] bool hasEdits(const std::string& group = {}) const;
 
     /// Lays the sections out side by side as far as `width` (twips) allows, and takes the size that
     /// comes of it. Texts decide what a section needs, so this follows every change of them.

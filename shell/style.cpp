@@ -2,6 +2,7 @@
 
 #include "qt/colors.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
 #include <QPainter>
 #include <QStyleFactory>
@@ -21,6 +22,20 @@ const Colors kLight = {QColor(0xf1f3f5), QColor(0xfcfdfd), QColor(0xffffff), QCo
 const Colors kDark  = {QColor(0x1d2125), QColor(0x25292e), QColor(0x16191c), QColor(0x2d3238),
                        QColor(0xe6e9ec), QColor(0x8b949c), QColor(0x424a52), QColor(0x2f9db8),
                        QColor(0x0c1113), QColor(0x63c3da)};
+
+/// The row with the cursor, also where it is the chosen one.
+void drawRowFocus(const QStyleOption& option, QPainter& painter)
+{
+    const auto*    focus   = qstyleoption_cast<const QStyleOptionFocusRect*>(&option);
+    const QPalette palette = option.palette;
+    const bool     chosen =
+        focus != nullptr && focus->backgroundColor == palette.color(QPalette::Highlight);
+    painter.save();
+    painter.setPen(palette.color(chosen ? QPalette::HighlightedText : QPalette::Highlight));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(option.rect.adjusted(1, 1, -2, -2));
+    painter.restore();
+}
 
 /// The ground of cards is none of the palette's usual roles.
 constexpr auto kCardRole = QPalette::AlternateBase;
@@ -75,6 +90,14 @@ ShellStyle::ShellStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fus
 void ShellStyle::drawComplexControl(ComplexControl control, const QStyleOptionComplex* option,
                                     QPainter* painter, const QWidget* widget) const
 {
+    if (const auto* spin = qstyleoption_cast<const QStyleOptionSpinBox*>(option);
+        control == CC_SpinBox && spin != nullptr) {
+        // Fusion leaves a pixel free above and below, which other boxes do not.
+        QStyleOptionSpinBox full(*spin);
+        full.rect.adjust(0, -1, 0, 1);
+        QProxyStyle::drawComplexControl(control, &full, painter, widget);
+        return;
+    }
     const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
     if (control != CC_GroupBox || group == nullptr) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
@@ -82,7 +105,7 @@ void ShellStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     }
     constexpr qreal kRadius   = 6;
     constexpr int   kPadding  = 16;
-    constexpr int   kTitleTop = 6;
+    constexpr int   kTitleTop = 5;
     constexpr int   kTitle    = 24;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
@@ -102,6 +125,12 @@ void ShellStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
 void ShellStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                QPainter* painter, const QWidget* widget) const
 {
+    // Trees draw the focus of a whole row without telling themselves.
+    if (element == PE_FrameFocusRect &&
+        (widget == nullptr || qobject_cast<const QAbstractItemView*>(widget) != nullptr)) {
+        drawRowFocus(*option, *painter);
+        return;
+    }
     if (element != PE_IndicatorCheckBox && element != PE_IndicatorItemViewItemCheck) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
         return;
@@ -117,7 +146,12 @@ void ShellStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
     const QColor    edge    = palette.color(QPalette::Active, QPalette::PlaceholderText);
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(QPen(filled || focused ? accent : edge, 1));
+    // On a chosen row the mark needs an edge that is not the ground.
+    const bool   onAccent = (option->state & State_Selected) != 0;
+    const QColor around   = onAccent            ? palette.color(group, QPalette::HighlightedText)
+                            : filled || focused ? accent
+                                                : edge;
+    painter->setPen(QPen(around, 1));
     painter->setBrush(filled ? accent : palette.color(group, QPalette::Base));
     painter->drawRoundedRect(box, kRadius, kRadius);
     if (filled) {

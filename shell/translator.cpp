@@ -17,13 +17,13 @@ namespace {
 
 struct Catalogue {
     const char* language;
-    const char* file;
+    const char* code;
 };
 
 constexpr std::array kCatalogues{
-    Catalogue{"English", "quill_en.qm"},
-    Catalogue{"German", "quill_de.qm"},
-    Catalogue{"Finnish", "quill_fi.qm"},
+    Catalogue{"English", "en"},
+    Catalogue{"German", "de"},
+    Catalogue{"Finnish", "fi"},
 };
 
 } // namespace
@@ -52,11 +52,12 @@ bool CatalogueTranslator::setLanguage(const std::string& language)
         return false;
     }
     auto catalogue = std::make_unique<QTranslator>();
-    if (!catalogue->load(QStringLiteral(":/quill/translations/") + found->file)) {
+    if (!catalogue->load(QStringLiteral(":/quill/translations/quill_%1.qm").arg(found->code))) {
         return false;
     }
     mCatalogue = std::move(catalogue);
     mLanguage  = language;
+    mCode      = found->code;
     return true;
 }
 

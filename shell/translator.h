@@ -27,6 +27,8 @@ public:
     bool setLanguage(const std::string& language);
 
     std::string GetLanguage() override { return mLanguage; }
+    /// "en", "de", "fi": as file names and Qt's own catalogues call the language.
+    [[nodiscard]] const QString& languageCode() const { return mCode; }
     /// "Err:" and the key if there is no text.
     std::string Translate(const std::string& key) override;
     /// The text of the part before the delimiter, with what follows in the place of "%1", or behind
@@ -45,6 +47,7 @@ private:
     [[nodiscard]] QString find(const std::string& key) const;
 
     std::string                  mLanguage;
+    QString                      mCode;
     std::unique_ptr<QTranslator> mCatalogue;
 };
 

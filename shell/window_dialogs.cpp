@@ -27,8 +27,9 @@ void MessageBoxes::showMessage(const QString& title, const QString& text)
 {
     // A message does not wait for its answer: it may come from the middle of a response, and the
     // next response must not arrive inside of that.
-    auto* box =
-        new QMessageBox(QMessageBox::Information, title, text, QMessageBox::NoButton, &mWindow);
+    const auto sign =
+        title == mTexts.text("error") ? QMessageBox::Warning : QMessageBox::Information;
+    auto* box = new QMessageBox(sign, title, text, QMessageBox::NoButton, &mWindow);
     box->setAttribute(Qt::WA_DeleteOnClose);
     box->addButton(mTexts.text("ok"), QMessageBox::AcceptRole);
     box->open();

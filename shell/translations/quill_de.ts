@@ -855,14 +855,6 @@
         <source>Shows the pending changes</source>
         <translation>Zeigt die offenen Änderungen</translation>
     </message>
-    <message id="shell_settings">
-        <source>&amp;Settings…</source>
-        <translation>&amp;Einstellungen…</translation>
-    </message>
-    <message id="shell_settingsTip">
-        <source>Language, units and status classification</source>
-        <translation>Sprache, Einheiten und Statusklassifizierung</translation>
-    </message>
     <message id="shell_language">
         <source>Language</source>
         <translation>Sprache</translation>
@@ -911,10 +903,6 @@
         <source>Text</source>
         <translation>Text</translation>
     </message>
-    <message id="shell_tour">
-        <source>&amp;Tour</source>
-        <translation>&amp;Rundgang</translation>
-    </message>
     <message id="shell_about">
         <source>&amp;About Quill</source>
         <translation>Ü&amp;ber Quill</translation>
@@ -923,13 +911,9 @@
         <source>A reference host for the Quill controls with a simulated valve positioner.</source>
         <translation>Ein Referenz-Host für die Quill-Bedienelemente mit einem simulierten Stellungsregler.</translation>
     </message>
-    <message id="shell_delay">
-        <source>Response delay</source>
-        <translation>Antwortverzögerung</translation>
-    </message>
-    <message id="shell_ready">
-        <source>Ready</source>
-        <translation>Bereit</translation>
+    <message id="shell_aboutVersion">
+        <source>Version %1, under the Apache License 2.0</source>
+        <translation>Version %1, unter der Apache-Lizenz 2.0</translation>
     </message>
     <message id="shell_saved">
         <source>Saved: %1</source>
@@ -947,14 +931,6 @@
         <source>Unsaved changes</source>
         <translation>Nicht gespeicherte Änderungen</translation>
     </message>
-    <message id="shell_closeQuestion">
-        <source>There are changes that are not saved. Close and lose them?</source>
-        <translation>Es gibt Änderungen, die nicht gespeichert sind. Schließen und verwerfen?</translation>
-    </message>
-    <message id="shell_discardQuestion">
-        <source>There are changes that are not saved. Open another datafile and lose them?</source>
-        <translation>Es gibt Änderungen, die nicht gespeichert sind. Eine andere Gerätedatei öffnen und sie verwerfen?</translation>
-    </message>
     <message id="shell_readQuestion">
         <source>Reading replaces the edits of these parameters. Read?</source>
         <translation>Das Lesen ersetzt die Änderungen an diesen Parametern. Lesen?</translation>
@@ -966,10 +942,6 @@
     <message id="shell_offlineNoRequest">
         <source>This needs the device. Go online first.</source>
         <translation>Dazu wird das Gerät gebraucht. Gehen Sie zuerst online.</translation>
-    </message>
-    <message id="shell_datafile">
-        <source>Datafile</source>
-        <translation>Gerätedatei</translation>
     </message>
     <message id="shell_errNoFile">
         <source>The file %1 does not exist. Choose another file.</source>

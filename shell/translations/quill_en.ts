@@ -855,14 +855,6 @@
         <source>Shows the pending changes</source>
         <translation>Shows the pending changes</translation>
     </message>
-    <message id="shell_settings">
-        <source>&amp;Settings…</source>
-        <translation>&amp;Settings…</translation>
-    </message>
-    <message id="shell_settingsTip">
-        <source>Language, units and status classification</source>
-        <translation>Language, units and status classification</translation>
-    </message>
     <message id="shell_language">
         <source>Language</source>
         <translation>Language</translation>
@@ -911,10 +903,6 @@
         <source>Text</source>
         <translation>Text</translation>
     </message>
-    <message id="shell_tour">
-        <source>&amp;Tour</source>
-        <translation>&amp;Tour</translation>
-    </message>
     <message id="shell_about">
         <source>&amp;About Quill</source>
         <translation>&amp;About Quill</translation>
@@ -923,13 +911,9 @@
         <source>A reference host for the Quill controls with a simulated valve positioner.</source>
         <translation>A reference host for the Quill controls with a simulated valve positioner.</translation>
     </message>
-    <message id="shell_delay">
-        <source>Response delay</source>
-        <translation>Response delay</translation>
-    </message>
-    <message id="shell_ready">
-        <source>Ready</source>
-        <translation>Ready</translation>
+    <message id="shell_aboutVersion">
+        <source>Version %1, under the Apache License 2.0</source>
+        <translation>Version %1, under the Apache License 2.0</translation>
     </message>
     <message id="shell_saved">
         <source>Saved: %1</source>
@@ -947,14 +931,6 @@
         <source>Unsaved changes</source>
         <translation>Unsaved changes</translation>
     </message>
-    <message id="shell_closeQuestion">
-        <source>There are changes that are not saved. Close and lose them?</source>
-        <translation>There are changes that are not saved. Close and lose them?</translation>
-    </message>
-    <message id="shell_discardQuestion">
-        <source>There are changes that are not saved. Open another datafile and lose them?</source>
-        <translation>There are changes that are not saved. Open another datafile and lose them?</translation>
-    </message>
     <message id="shell_readQuestion">
         <source>Reading replaces the edits of these parameters. Read?</source>
         <translation>Reading replaces the edits of these parameters. Read?</translation>
@@ -966,10 +942,6 @@
     <message id="shell_offlineNoRequest">
         <source>This needs the device. Go online first.</source>
         <translation>This needs the device. Go online first.</translation>
-    </message>
-    <message id="shell_datafile">
-        <source>Datafile</source>
-        <translation>Datafile</translation>
     </message>
     <message id="shell_errNoFile">
         <source>The file %1 does not exist. Choose another file.</source>

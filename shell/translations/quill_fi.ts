@@ -855,14 +855,6 @@
         <source>Shows the pending changes</source>
         <translation>Näyttää odottavat muutokset</translation>
     </message>
-    <message id="shell_settings">
-        <source>&amp;Settings…</source>
-        <translation>&amp;Asetukset…</translation>
-    </message>
-    <message id="shell_settingsTip">
-        <source>Language, units and status classification</source>
-        <translation>Kieli, yksiköt ja tilaluokitus</translation>
-    </message>
     <message id="shell_language">
         <source>Language</source>
         <translation>Kieli</translation>
@@ -911,10 +903,6 @@
         <source>Text</source>
         <translation>Teksti</translation>
     </message>
-    <message id="shell_tour">
-        <source>&amp;Tour</source>
-        <translation>&amp;Esittelykierros</translation>
-    </message>
     <message id="shell_about">
         <source>&amp;About Quill</source>
         <translation>&amp;Tietoja Quillista</translation>
@@ -923,13 +911,9 @@
         <source>A reference host for the Quill controls with a simulated valve positioner.</source>
         <translation>Quill-ohjainten esimerkki-isäntä, jossa on simuloitu venttiiliohjain.</translation>
     </message>
-    <message id="shell_delay">
-        <source>Response delay</source>
-        <translation>Vastausviive</translation>
-    </message>
-    <message id="shell_ready">
-        <source>Ready</source>
-        <translation>Valmis</translation>
+    <message id="shell_aboutVersion">
+        <source>Version %1, under the Apache License 2.0</source>
+        <translation>Versio %1, Apache-lisenssi 2.0</translation>
     </message>
     <message id="shell_saved">
         <source>Saved: %1</source>
@@ -947,14 +931,6 @@
         <source>Unsaved changes</source>
         <translation>Tallentamattomia muutoksia</translation>
     </message>
-    <message id="shell_closeQuestion">
-        <source>There are changes that are not saved. Close and lose them?</source>
-        <translation>Osa muutoksista on tallentamatta. Suljetaanko ja hylätäänkö ne?</translation>
-    </message>
-    <message id="shell_discardQuestion">
-        <source>There are changes that are not saved. Open another datafile and lose them?</source>
-        <translation>Osa muutoksista on tallentamatta. Avataanko toinen laitetiedosto ja hylätäänkö ne?</translation>
-    </message>
     <message id="shell_readQuestion">
         <source>Reading replaces the edits of these parameters. Read?</source>
         <translation>Lukeminen korvaa näiden parametrien muokkaukset. Luetaanko?</translation>
@@ -966,10 +942,6 @@
     <message id="shell_offlineNoRequest">
         <source>This needs the device. Go online first.</source>
         <translation>Tähän tarvitaan laite. Yhdistä ensin.</translation>
-    </message>
-    <message id="shell_datafile">
-        <source>Datafile</source>
-        <translation>Laitetiedosto</translation>
     </message>
     <message id="shell_errNoFile">
         <source>The file %1 does not exist. Choose another file.</source>

@@ -3,6 +3,7 @@
 #include "qt/text.h"
 
 #include <QDateTimeEdit>
+#include <QEvent>
 #include <QLineEdit>
 #include <QLocale>
 #include <QSignalBlocker>
@@ -75,7 +76,8 @@ protected:
     {
         // The chosen section stays marked otherwise, as if it still had the focus.
         if (event.type() == QEvent::FocusOut) {
-            QMetaObject::invokeMethod(this, [this] { unmark(); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                this, [this] { unmark(); }, Qt::QueuedConnection);
         }
         return false;
     }

@@ -125,7 +125,8 @@ protected:
     bool otherEvent(QEvent& event) override
     {
         if (event.type() == QEvent::FocusIn) {
-            QMetaObject::invokeMethod(this, [this] { refresh(); }, Qt::QueuedConnection);
+            QMetaObject::invokeMethod(
+                this, [this] { refresh(); }, Qt::QueuedConnection);
         }
         return false;
     }

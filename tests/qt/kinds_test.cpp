@@ -185,6 +185,23 @@ TEST(ComboBoxOnScreen, ALockedBoxTakesTheChoiceBack)
     EXPECT_EQ(screen.as<QComboBox>(page.cbo)->currentIndex(), 1);
 }
 
+TEST(ComboBoxOnScreen, ALockedBoxKeepsItsListClosed)
+{
+    ComboPage page;
+    page.cbo.Locked = true;
+    const Shown screen(page);
+    auto* const box = screen.as<QComboBox>(page.cbo);
+    screen.click(page.cbo);
+    EXPECT_FALSE(box->view()->isVisible());
+    screen.key(page.cbo, Qt::Key_F4);
+    EXPECT_FALSE(box->view()->isVisible());
+    page.cbo.Locked = false;
+    settle();
+    box->showPopup();
+    EXPECT_TRUE(box->view()->isVisible());
+    box->hidePopup();
+}
+
 TEST(ComboBoxOnScreen, AnEditableBoxTakesATextOfItsOwn)
 {
     ComboPage page;

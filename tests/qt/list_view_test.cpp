@@ -57,6 +57,19 @@ TEST_F(ListOnScreen, ShowsRowsAndColumns)
     EXPECT_EQ(tree()->columnWidth(0), 200);
 }
 
+TEST_F(ListOnScreen, WithTheFocusTheSpaceBarMeansTheFirstRowUntilAnotherIsTaken)
+{
+    tree()->setFocus(Qt::TabFocusReason);
+    settle();
+    EXPECT_EQ(tree()->currentIndex().row(), 0);
+    EXPECT_EQ(page.lst.SelectedItem(), 0) << "the cursor chooses nothing";
+    screen.key(page.lst, Qt::Key_Space);
+    EXPECT_TRUE(page.lst.Item(1).Checked);
+    page.lst.setItems(page.lst.ListItems());
+    settle();
+    EXPECT_EQ(tree()->currentIndex().row(), 0) << "new rows have a cursor too";
+}
+
 TEST_F(ListOnScreen, AMarkIsSetByTheMouse)
 {
     std::vector<int> checked;

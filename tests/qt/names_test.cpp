@@ -70,6 +70,27 @@ TEST(AccessibleNames, ComeFromTheLabelsAroundAndTellTheState)
     EXPECT_EQ(name(page.editor.txtBox), "Bereich, bar, geändert, Fehler");
 }
 
+TEST(AccessibleNames, ACheckBoxWithoutACaptionIsCalledAsTheTextBehindIt)
+{
+    struct : Page {
+        platform::Label lblBefore{
+            *this, {.Name = "lblBefore", .Caption = "Mode", .Width = 900, .Height = 255}};
+        platform::CheckBox chk{*this, {.Name = "chk", .Left = 1000, .Width = 255, .Height = 255}};
+        platform::Label    lblBehind{*this,
+                                  {.Name    = "lblBehind",
+                                      .Caption = "Show all",
+                                      .Left    = 1350,
+                                      .Width   = 1500,
+                                      .Height  = 255}};
+    } page;
+    page.chk.Caption = "";
+    const Shown screen(page);
+    EXPECT_EQ(screen[page.chk]->accessibleName(), "Show all");
+    page.lblBehind.Visible = false;
+    settle();
+    EXPECT_EQ(screen[page.chk]->accessibleName(), "Mode");
+}
+
 TEST(AccessibleNames, AHostKnowsBetter)
 {
     NamePage    page;

@@ -86,6 +86,30 @@ TEST(Catalogue, HoldsEveryIdThatTheShellUses)
     EXPECT_GT(used, 10);
 }
 
+TEST(Catalogue, HoldsNoIdThatNobodyUses)
+{
+    QString      sources;
+    QDirIterator files{
+        kSource, {"*.cpp", "*.h", "*.json"}, QDir::Files, QDirIterator::Subdirectories};
+    while (files.hasNext()) {
+        QFile file{files.next()};
+        ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+        sources += QString::fromUtf8(file.readAll());
+    }
+    for (const auto& [id, text] : catalogue("en")) {
+        if (!id.startsWith("shell_")) {
+            continue; // of the controls
+        }
+        const bool whole = sources.contains('"' + id + '"') || sources.contains('"' + id + '#');
+        bool       parts = false; // put together of a beginning and what is counted or named
+        for (const char* beginning : {"shell_userLevel", "shell_units", "shell_state_"}) {
+            parts = parts ||
+                    (id.startsWith(beginning) && sources.contains('"' + QString{beginning} + '"'));
+        }
+        EXPECT_TRUE(whole || parts) << id.toStdString();
+    }
+}
+
 TEST(Catalogue, HoldsEveryTextOfTheSampleDatafile)
 {
     QFile file{kSource + "data/vx4400h.xml"};

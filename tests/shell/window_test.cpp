@@ -1,6 +1,7 @@
 #include "shell/options.h"
 #include "window_fixture.h"
 
+#include <QApplication>
 #include <QCloseEvent>
 #include <QComboBox>
 #include <QCoreApplication>
@@ -57,6 +58,36 @@ TEST_F(Window, ShowsTheFirstPageAndTurnsToTheOneThatIsChosenInTheTree)
     EXPECT_EQ(window->book().GetSelectedView(), "tuning");
     EXPECT_TRUE(window->book().page("tuning")->Visible);
     EXPECT_FALSE(window->book().page("identification")->Visible);
+}
+
+TEST_F(Window, ArrowKeysWalkTheTreeAndEnterLeadsIntoThePage)
+{
+    auto* tree = window->findChild<QTreeWidget*>("pages");
+    tree->setFocus();
+    userInput::press(*tree, Qt::Key_Down);
+    EXPECT_EQ(window->book().GetSelectedView(), "configuration");
+    EXPECT_TRUE(tree->hasFocus());
+    userInput::press(*tree, Qt::Key_Down);
+    EXPECT_EQ(window->book().GetSelectedView(), "tuning");
+    userInput::press(*tree, Qt::Key_Return);
+    EXPECT_FALSE(tree->hasFocus());
+    EXPECT_TRUE(window->view().isAncestorOf(QApplication::focusWidget()));
+}
+
+TEST_F(Window, TheTabKeyLeadsFromTheTreeOverThePageToTheLog)
+{
+    auto* tree = window->findChild<QTreeWidget*>("pages");
+    tree->setFocus();
+    userInput::press(*tree, Qt::Key_Down);
+    userInput::press(*tree, Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), &shown(editor<CtrComboEdit>("valveType").cboBox));
+    constexpr int kMost = 100;
+    int           steps = 0;
+    while (!window->log().isAncestorOf(QApplication::focusWidget()) && ++steps < kMost) {
+        EXPECT_TRUE(window->view().isAncestorOf(QApplication::focusWidget()));
+        userInput::press(*QApplication::focusWidget(), Qt::Key_Tab);
+    }
+    EXPECT_LT(steps, kMost);
 }
 
 TEST_F(Window, ChoosingTheShownPageAgainStaysOnIt)
@@ -117,6 +148,36 @@ TEST_F(Window, ReadingAPageReadsItsRequestGroupsOnceEachAndAsksBeforeItOverwrite
     EXPECT_EQ(responses, QStringList({"read assembly ok", "read signal ok", "read pressure ok",
                                       "read maintenance ok"}));
     EXPECT_FALSE(editor("ratedTravel").Modified());
+}
+
+TEST_F(Window, ReadingASectionAsksBeforeItOverwritesItsEditsOnly)
+{
+    goOnline();
+    makeAnEdit();
+    const Page& page = *window->book().page("configuration");
+    userInput::click(shown(*page.readButton("signal")));
+    waitForDevice();
+    EXPECT_TRUE(dialogs.boxes.empty()) << "the edit is of another section";
+    userInput::click(shown(*page.readButton("assembly")));
+    waitForDevice();
+    ASSERT_EQ(dialogs.boxes.size(), 1U);
+    EXPECT_TRUE(editor("ratedTravel").Modified()) << "declined";
+    dialogs.answers.push_back(true);
+    userInput::click(shown(*page.readButton("assembly")));
+    waitForDevice();
+    EXPECT_FALSE(editor("ratedTravel").Modified());
+    EXPECT_EQ(responses, QStringList({"read signal ok", "read assembly ok"}));
+}
+
+TEST_F(Window, TellsWhatItIs)
+{
+    QCoreApplication::setApplicationVersion("1.2.3");
+    window->command("about")->trigger();
+    ASSERT_EQ(dialogs.boxes.size(), 1U);
+    EXPECT_EQ(dialogs.boxes.front().title, "About Quill");
+    EXPECT_THAT(dialogs.boxes.front().text.toStdString(),
+                testing::AllOf(HasSubstr("Version 1.2.3"), HasSubstr("Apache License 2.0")));
+    QCoreApplication::setApplicationVersion({});
 }
 
 TEST_F(Window, AnObserverChangesNothingOnTheDevice)
@@ -191,6 +252,7 @@ TEST_F(Window, OpeningAnotherFileStaysOnThePage)
     EXPECT_EQ(window->book().GetSelectedView(), "alarms");
     dialogs.files = {path()};
     window->command("open")->trigger();
+    EXPECT_EQ(dialogs.boxes.back().title, "Open");
     EXPECT_EQ(store().path(), path().toStdString());
 }
 
