@@ -36,6 +36,7 @@ void ErrorTrap::generic(void* trap, const char* format, ...)
     std::array<char, 256> text{};
     std::va_list          arguments;
     va_start(arguments, format);
+    // NOLINTNEXTLINE(clang-analyzer-valist.Uninitialized): va_start stands right above
     std::vsnprintf(text.data(), text.size(), format, arguments);
     va_end(arguments);
     static_cast<ErrorTrap*>(trap)->take(text.data(), 0);
