@@ -66,7 +66,12 @@ enum ChangeScope : std::int16_t {
 enum DownloadPhase : std::int16_t { kBeforeDownload = 2, kAfterDownload = 3 };
 
 /// Phase of a dialog, for `NotifyDialog`.
-enum DialogPhase : std::int16_t { kDialogComesUp = 50, kDialogGoes = 51 };
+enum DialogPhase : std::int16_t {
+    kDialogComesUp       = 50,
+    kDialogGoes          = 51,
+    kConfigurationBegins = 52, ///< a view turns from showing to configuring
+    kConfigurationEnds   = 53,
+};
 
 /// The one answer of `AskQuestion` that is a yes; any other is a no.
 constexpr std::int32_t kPositiveAnswer = 4;

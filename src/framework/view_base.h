@@ -42,6 +42,8 @@ public:
 protected:
     /// The frames and child views that hold the sub-pages: those that lie right on this view.
     [[nodiscard]] virtual platform::WidgetList subPages() const;
+    /// The name that `GetSelectedView` answers from now on.
+    void rememberSelectedView(std::string name) { mSelectedView = std::move(name); }
 
 private:
     Messenger*  mMessenger = nullptr;

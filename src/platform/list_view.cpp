@@ -78,6 +78,20 @@ void ListView::Add(ListItem item)
     notify({WidgetChange::What::rowsInserted, nullptr, Count() - 1, Count() - 1});
 }
 
+void ListView::Remove(int row)
+{
+    (void)at(row);
+    mItems.erase(mItems.begin() + (row - 1));
+    const auto moveUp = [&](int& other) { other -= other > row || other > Count() ? 1 : 0; };
+    if (mCurrent == row) {
+        mCurrent = 0;
+    }
+    moveUp(mCurrent);
+    moveUp(mFirstVisible);
+    moveUp(mEnsured);
+    notify({WidgetChange::What::rowsRemoved, nullptr, row - 1, row - 1});
+}
+
 void ListView::Clear()
 {
     setItems({});
@@ -88,6 +102,7 @@ void ListView::setItems(std::vector<ListItem> items)
     mItems        = std::move(items);
     mCurrent      = 0;
     mFirstVisible = mItems.empty() ? 0 : 1;
+    mEnsured      = 0;
     notify({WidgetChange::What::reset});
 }
 
@@ -118,10 +133,19 @@ void ListView::setFirstVisible(int row)
     if (row != 0) {
         (void)at(row);
     }
+    mEnsured = 0;
     if (row != mFirstVisible) {
         mFirstVisible = row;
         notify({});
     }
+}
+
+void ListView::EnsureVisible(int row)
+{
+    (void)at(row);
+    mEnsured      = row;
+    mFirstVisible = std::min(mFirstVisible, row);
+    notify({});
 }
 
 UserDoor ListView::check(int row, bool checked)

@@ -56,6 +56,8 @@ public:
         notify({WidgetChange::What::rowsChanged, nullptr, row - 1, row - 1});
     }
     void Add(ListItem item);
+    /// Takes a row away; the rows behind it move up.
+    void Remove(int row);
     void Clear();
     /// Replaces all rows at once: one change, whatever the number.
     void setItems(std::vector<ListItem> items);
@@ -68,6 +70,11 @@ public:
     /// The first row that is to be seen, 0 for none.
     [[nodiscard]] int FirstVisible() const noexcept { return mFirstVisible; }
     void              setFirstVisible(int row);
+    /// Asks for this row to be seen. One above the first visible becomes that; for one below, a
+    /// renderer scrolls as far as it must.
+    void EnsureVisible(int row);
+    /// The row that was asked for last, 0 for none; the first visible row holds where it is newer.
+    [[nodiscard]] int EnsuredVisible() const noexcept { return mEnsured; }
 
     /// User's door.
     UserDoor check(int row, bool checked);
@@ -81,6 +88,7 @@ private:
     std::vector<ListItem>     mItems;
     int                       mCurrent      = 0;
     int                       mFirstVisible = 0;
+    int                       mEnsured      = 0;
 };
 
 } // namespace quill::platform

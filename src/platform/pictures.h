@@ -22,6 +22,8 @@ public:
         mKeys.push_back(std::move(key));
         notify({WidgetChange::What::reset});
     }
+    /// The place of a key, from 0; failure 5 for a key that is not in the list.
+    [[nodiscard]] int index(const std::string& key) const;
     /// The key of the first image, empty for none.
     [[nodiscard]] std::string first() const { return mKeys.empty() ? std::string{} : mKeys[0]; }
 

@@ -27,7 +27,7 @@ struct Design {
 };
 
 /// What changed in a widget: one property, or a range of rows (0-based, `last` included) of a
-/// widget that holds many. `form`: a widget was added to this control's form; it is still under
+/// widget that holds many, all of it or one column only. `form`: a widget was added to this control's form; it is still under
 /// construction and must not be touched yet. `destroyed`: the last word of a dying widget, of which
 /// only the address is left.
 struct WidgetChange {
@@ -36,6 +36,7 @@ struct WidgetChange {
     const void* property = nullptr;
     int         first    = 0;
     int         last     = 0;
+    int         column   = -1; ///< 0-based; -1 for all columns
 };
 
 /// Shift state of a key: a sum of these.

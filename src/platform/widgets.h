@@ -4,6 +4,7 @@
 #include "platform/buttons.h"
 #include "platform/combo_box.h"
 #include "platform/date_picker.h"
+#include "platform/grid.h"
 #include "platform/label.h"
 #include "platform/list_view.h"
 #include "platform/menu.h"

@@ -1,0 +1,27 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+
+/// The arithmetic of status masks. A mask is a text of hexadecimal digits, two to a byte, byte 0
+/// first; devices keep it in parts of equal length. A condition has a byte, counted over the whole
+/// mask from 0, and a bit from 0, bit 0 having the value 1.
+namespace quill::statusMasks {
+
+/// How many bytes a part of so many digits has: the half, rounded to the even number on a tie.
+[[nodiscard]] int bytesInPart(int digits);
+/// The part of a byte, counted from 1. Failure 11 if a part has no bytes.
+[[nodiscard]] int partOf(int maskByte, int bytesInPart);
+/// The place of a byte within its part, counted from 0. Failure 11 if a part has no bytes.
+[[nodiscard]] int byteInPart(int maskByte, int bytesInPart);
+/// The value of a bit from 0 to 7; failure 9 for any other.
+[[nodiscard]] std::uint8_t bitValue(int bit);
+
+/// The byte at a place, counted from 0. 255 behind the end: what a device does not list is switched
+/// on. One digit alone counts too. Failure 13 for what is not hexadecimal, 5 for a place below 0.
+[[nodiscard]] std::uint8_t getByte(const std::string& mask, int place);
+/// The mask with another byte in that place, as two upper-case digits, whatever stood there.
+/// Failure 5 for a place below 0.
+[[nodiscard]] std::string setByte(const std::string& mask, int place, std::uint8_t value);
+
+} // namespace quill::statusMasks
