@@ -26,7 +26,7 @@ protected:
     PageView(const char* className, platform::Widget& container, const platform::Design& design);
 
     /// Guards the steps of a procedure, which reports as class name, blank, procedure, ": ".
-    [[nodiscard]] Steps steps(const char* procedure);
+    [[nodiscard]] virtual Steps steps(const char* procedure);
     /// The same without a Messenger to rely on: "CLASS procedure - Error", number, ": " and
     /// description, to the debug output.
     [[nodiscard]] Steps debugSteps(const char* procedure) const;

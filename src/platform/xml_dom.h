@@ -91,6 +91,9 @@ public:
     /// another document, moves. A node cannot go into itself or its own descendant, a document
     /// takes one element only: failure 5.
     IXMLDOMNode appendChild(const IXMLDOMNode& child) const;
+    /// Puts `child` in front of `before`, which must be a child of this node (else failure 5), and
+    /// answers it. What `appendChild` tells of moving and of what cannot be holds here too.
+    IXMLDOMNode insertBefore(const IXMLDOMNode& child, const IXMLDOMNode& before) const;
     /// Puts `fresh` into the place of `old`, which must be a child of this node (else failure 5),
     /// and answers `old`.
     IXMLDOMNode replaceChild(const IXMLDOMNode& fresh, const IXMLDOMNode& old) const;

@@ -6,6 +6,8 @@
 
 namespace quill {
 
+using platform::IXMLDOMNode;
+
 /// One classification of a device's status conditions: the class of each condition by its name, and
 /// which of two classes is the worse. A class is at the same time the key of its image. Texts are
 /// compared exactly.

@@ -288,6 +288,25 @@ IXMLDOMNode IXMLDOMNode::appendChild(const IXMLDOMNode& child) const
     return child;
 }
 
+IXMLDOMNode IXMLDOMNode::insertBefore(const IXMLDOMNode& child, const IXMLDOMNode& before) const
+{
+    NodeRef& parent = reach(mRef);
+    NodeRef& moved  = reach(child.ref());
+    NodeRef& behind = reach(before.ref());
+    if (isAttribute(behind.node) || behind.node->parent != parent.node) {
+        refuse("The node to insert in front of is not a child of this node.");
+    }
+    requireChild(parent.node, moved.node, nullptr);
+    if (moved.node == behind.node) {
+        return child;
+    }
+    const auto source = moved.document;
+    fetch(*parent.document, moved.node, *source);
+    detail::linkChild(parent.node, moved.node, behind.node);
+    parent.document->place(moved.node);
+    return child;
+}
+
 IXMLDOMNode IXMLDOMNode::replaceChild(const IXMLDOMNode& fresh, const IXMLDOMNode& old) const
 {
     NodeRef& parent  = reach(mRef);
