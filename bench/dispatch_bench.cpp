@@ -4,15 +4,11 @@
 //
 // Prints Google Benchmark's lines, then the ratios that matter, as a table in Markdown.
 
+#include "bench_support.h"
 #include "editors/CtrTextEdit.h"
 #include "framework/default_messenger.h"
 #include "framework/documents.h"
 #include "framework/view_base.h"
-
-#include <benchmark/benchmark.h>
-#include <libxml/parser.h>
-#include <libxml/xpath.h>
-#include <libxml/xpathInternals.h>
 
 #include <cstdio>
 #include <malloc.h>
@@ -66,8 +62,8 @@ std::size_t allocated()
 }
 
 /// A page of n editors, bound to a datafile, with a host that listens to nothing.
-struct Bench {
-    explicit Bench(long n) : count(n)
+struct Page {
+    explicit Page(long n) : count(n)
     {
         datafile = documents::openText(datafileXml(n));
         // What the datafile costs by itself, its look-ups included, is not the editors'.
@@ -82,13 +78,13 @@ struct Bench {
         page->SetOfflineData(datafile);
         bytes = allocated() - before;
     }
-    ~Bench()
+    ~Page()
     {
         editors.clear();
         page.reset();
     }
-    Bench(const Bench&)            = delete;
-    Bench& operator=(const Bench&) = delete;
+    Page(const Page&)            = delete;
+    Page& operator=(const Page&) = delete;
 
     long                                      count;
     DefaultMessenger                          messenger;
@@ -98,14 +94,13 @@ struct Bench {
     std::size_t                               bytes = 0;
 };
 
-std::map<std::string, double> gSeconds;
-std::map<long, std::size_t>   gBytesPerEditor;
+std::map<long, std::size_t> gBytesPerEditor;
 
 void SetOnlineData(benchmark::State& state)
 {
     const long n = state.range(0);
-    Bench      bench{n};
-    gBytesPerEditor[n] = bench.bytes / static_cast<std::size_t>(n);
+    Page       served{n};
+    gBytesPerEditor[n] = served.bytes / static_cast<std::size_t>(n);
     // Two responses take turns, so that every pass changes every text, and each is a fresh
     // document, as one that arrives from the device is.
     const std::string texts[] = {responseXml(n, "25.5"), responseXml(n, "50.75")};
@@ -114,12 +109,12 @@ void SetOnlineData(benchmark::State& state)
         state.PauseTiming();
         auto response = documents::openText(texts[turn++ % 2]);
         state.ResumeTiming();
-        bench.page->SetOnlineData(response);
+        served.page->SetOnlineData(response);
         state.PauseTiming();
         response = {};
         state.ResumeTiming();
     }
-    if (bench.editors.back()->Text() != (turn % 2 == 1 ? "25.50" : "50.75")) {
+    if (served.editors.back()->Text() != (turn % 2 == 1 ? "25.50" : "50.75")) {
         state.SkipWithError("the values did not arrive");
     }
 }
@@ -127,13 +122,13 @@ void SetOnlineData(benchmark::State& state)
 void SetOfflineData(benchmark::State& state)
 {
     const long        n = state.range(0);
-    Bench             bench{n};
+    Page              served{n};
     const std::string text = datafileXml(n);
     for (auto _ : state) {
         state.PauseTiming();
         auto datafile = documents::openText(text);
         state.ResumeTiming();
-        bench.page->SetOfflineData(datafile);
+        served.page->SetOfflineData(datafile);
         state.PauseTiming();
         datafile = {};
         state.ResumeTiming();
@@ -142,30 +137,8 @@ void SetOfflineData(benchmark::State& state)
 
 void XPathPerEditor(benchmark::State& state)
 {
-    const long        n    = state.range(0);
-    const std::string text = responseXml(n, "25.5");
-    xmlDocPtr document = xmlReadMemory(text.data(), static_cast<int>(text.size()), nullptr, "UTF-8",
-                                       XML_PARSE_NOBLANKS | XML_PARSE_HUGE);
-    for (auto _ : state) {
-        xmlXPathContextPtr context = xmlXPathNewContext(document);
-        xmlXPathRegisterNs(context, reinterpret_cast<const xmlChar*>("comm"),
-                           reinterpret_cast<const xmlChar*>(documents::kCommunicationSchema));
-        long found = 0;
-        for (long i = 0; i < n; ++i) {
-            const std::string expression =
-                "comm:dtm/comm:communicationResponse/comm:item[@name = \"" + name(i) + "\"]";
-            context->node            = reinterpret_cast<xmlNodePtr>(document);
-            xmlXPathObjectPtr result = xmlXPathEvalExpression(
-                reinterpret_cast<const xmlChar*>(expression.c_str()), context);
-            found += result->nodesetval->nodeNr;
-            xmlXPathFreeObject(result);
-        }
-        xmlXPathFreeContext(context);
-        if (found != n) {
-            state.SkipWithError("the expressions did not find every item");
-        }
-    }
-    xmlFreeDoc(document);
+    const long n = state.range(0);
+    bench::xpathPerItem(state, responseXml(n, "25.5"), n, name);
 }
 
 BENCHMARK(SetOfflineData)->Arg(100)->Arg(1000)->Arg(10000)->Unit(benchmark::kMillisecond);
@@ -173,44 +146,20 @@ BENCHMARK(SetOnlineData)->Arg(100)->Arg(1000)->Arg(10000)->Unit(benchmark::kMill
 BENCHMARK(XPathPerEditor)->Arg(100)->Arg(1000)->Unit(benchmark::kMillisecond);
 BENCHMARK(XPathPerEditor)->Arg(10000)->Iterations(1)->Unit(benchmark::kMillisecond);
 
-/// Keeps the times beside printing them.
-class Reporter : public benchmark::ConsoleReporter {
-public:
-    void ReportRuns(const std::vector<Run>& runs) override
-    {
-        for (const Run& run : runs) {
-            gSeconds[run.run_name.function_name + "/" + run.run_name.args] =
-                run.GetAdjustedRealTime() / 1000;
-        }
-        ConsoleReporter::ReportRuns(runs);
-    }
-};
-
-double ratio(const std::string& a, const std::string& b)
-{
-    return gSeconds[b] > 0 ? gSeconds[a] / gSeconds[b] : 0;
-}
-
 } // namespace
 
 int main(int argc, char** argv)
 {
-    benchmark::Initialize(&argc, argv);
-    if (benchmark::ReportUnrecognizedArguments(argc, argv)) {
-        return 2;
-    }
-    Reporter reporter;
-    benchmark::RunSpecifiedBenchmarks(&reporter);
-    std::printf("\n| Ratio | Measured | Bound |\n|---|---|---|\n");
-    std::printf("| SetOnlineData, 10,000 to 1,000 items | %.1f | at most 13 |\n",
-                ratio("SetOnlineData/10000", "SetOnlineData/1000"));
-    std::printf("| SetOfflineData, 10,000 to 1,000 parameters | %.1f | at most 13 |\n",
-                ratio("SetOfflineData/10000", "SetOfflineData/1000"));
-    std::printf("| XPath per editor to SetOnlineData, 1,000 items | %.0f | at least 20 |\n",
-                ratio("XPathPerEditor/1000", "SetOnlineData/1000"));
-    std::printf("| XPath per editor to SetOnlineData, 10,000 items | %.0f | at least 100 |\n",
-                ratio("XPathPerEditor/10000", "SetOnlineData/10000"));
-    std::printf("| Bytes per bound text editor, its widgets included | %zu | at most 8192 |\n",
-                gBytesPerEditor[10000]);
-    return 0;
+    return quill::bench::run(argc, argv, [](quill::bench::Reporter& reporter) {
+        reporter.printRatio("SetOnlineData, 10,000 to 1,000 items", "SetOnlineData/10000",
+                            "SetOnlineData/1000", "%.1f", "at most 13");
+        reporter.printRatio("SetOfflineData, 10,000 to 1,000 parameters", "SetOfflineData/10000",
+                            "SetOfflineData/1000", "%.1f", "at most 13");
+        reporter.printRatio("XPath per editor to SetOnlineData, 1,000 items", "XPathPerEditor/1000",
+                            "SetOnlineData/1000", "%.0f", "at least 20");
+        reporter.printRatio("XPath per editor to SetOnlineData, 10,000 items",
+                            "XPathPerEditor/10000", "SetOnlineData/10000", "%.0f", "at least 100");
+        std::printf("| Bytes per bound text editor, its widgets included | %zu | at most 8192 |\n",
+                    gBytesPerEditor[10000]);
+    });
 }

@@ -1,6 +1,8 @@
 #include "framework/documents.h"
 
+#include "framework/prefix_table.h"
 #include "platform/failure.h"
+#include "platform/utf8.h"
 
 #include <algorithm>
 #include <array>
@@ -101,15 +103,23 @@ private:
     std::vector<std::uint32_t> mBuckets;
 };
 
+/// The elements of one place in document order, and their names by how they begin. An element
+/// without a name stands there with an empty one, as in `starts-with`.
+struct ByPrefix {
+    std::vector<NodeMark> elements;
+    PrefixTable           names;
+};
+
 /// What a document carries in its cache. Each table is made when it is first asked for.
 struct Index {
     explicit Index(std::size_t structureVersion) : version(structureVersion) {}
 
     std::size_t                               version;
     std::array<std::optional<Table>, kPlaces> tables;
+    std::optional<ByPrefix>                   itemsByPrefix;
 };
 
-Table makeTable(const IXMLDOMDocument& document, const Place& place)
+std::vector<IXMLDOMNode> elementsAt(const IXMLDOMDocument& document, const Place& place)
 {
     // The root is selected by its expression, so that the document's own prefixes decide what the
     // namespace is and a missing one fails as it does in the whole expression.
@@ -129,9 +139,14 @@ Table makeTable(const IXMLDOMDocument& document, const Place& place)
         }
         level = std::move(next);
     }
+    return level;
+}
 
-    Table table{level.size()};
-    for (const IXMLDOMNode& element : level) {
+Table makeTable(const IXMLDOMDocument& document, const Place& place)
+{
+    const auto elements = elementsAt(document, place);
+    Table      table{elements.size()};
+    for (const IXMLDOMNode& element : elements) {
         if (const IXMLDOMNode name = attributeNode(element, "name")) {
             table.add(name.get_text(), NodeMark{element});
         }
@@ -139,7 +154,19 @@ Table makeTable(const IXMLDOMDocument& document, const Place& place)
     return table;
 }
 
-const Table& tableOf(const IXMLDOMDocument& document, const Place& place)
+ByPrefix makePrefixTable(const IXMLDOMDocument& document, const Place& place)
+{
+    std::vector<NodeMark>    marks;
+    std::vector<std::string> names;
+    for (const IXMLDOMNode& element : elementsAt(document, place)) {
+        const IXMLDOMNode name = attributeNode(element, "name");
+        marks.emplace_back(element);
+        names.push_back(name ? name.get_text() : std::string{});
+    }
+    return {std::move(marks), PrefixTable{std::move(names)}};
+}
+
+Index& indexOf(const IXMLDOMDocument& document)
 {
     auto& cache = document.cache();
     auto* index = static_cast<Index*>(cache.get());
@@ -148,19 +175,24 @@ const Table& tableOf(const IXMLDOMDocument& document, const Place& place)
         cache            = fresh;
         index            = fresh.get();
     }
-    auto& table = index->tables[place.slot];
+    return *index;
+}
+
+const Table& tableOf(const IXMLDOMDocument& document, const Place& place)
+{
+    auto& table = indexOf(document).tables[place.slot];
     if (!table) {
         table = makeTable(document, place);
     }
     return *table;
 }
 
-/// Whether a name can stand between double quotes in an expression. One that cannot is left to the
+/// Whether a name can stand between quotes in an expression. One that cannot is left to the
 /// expression, which then fails or says something else.
-bool isQuotable(std::string_view name)
+bool isQuotable(std::string_view name, char quote = '"')
 {
-    return std::none_of(name.begin(), name.end(), [](char c) {
-        return c == '"' ||
+    return std::none_of(name.begin(), name.end(), [quote](char c) {
+        return c == quote ||
                (static_cast<unsigned char>(c) < ' ' && c != '\t' && c != '\n' && c != '\r');
     });
 }
@@ -187,6 +219,16 @@ std::vector<IXMLDOMNode> find(const IXMLDOMNode& from, const Place& place, const
         return found.size() < most;
     });
     return found;
+}
+
+/// The expression for the elements of a place whose name begins with a prefix.
+std::string byPrefix(const Place& place, const std::string& prefix)
+{
+    std::string expression{place.root};
+    return expression.append(place.rest)
+        .append("[starts-with(@name,'")
+        .append(prefix)
+        .append("')]");
 }
 
 IXMLDOMNode findFirst(const IXMLDOMNode& from, const Place& place, const std::string& name)
@@ -242,6 +284,11 @@ IXMLDOMNode findParameter(const IXMLDOMNode& datafile, const std::string& name)
     return findFirst(datafile, kParameters, name);
 }
 
+IXMLDOMNodeList findParametersByPrefix(const IXMLDOMNode& datafile, const std::string& prefix)
+{
+    return datafile.selectNodes(byPrefix(kParameters, prefix));
+}
+
 IXMLDOMNode findMappedParam(const IXMLDOMNode& datafile, const std::string& name)
 {
     return findFirst(datafile, kMappedParams, name);
@@ -280,6 +327,27 @@ std::string homeRequestGroup(const IXMLDOMNode& datafile, const std::string& nam
 IXMLDOMNode findItem(const IXMLDOMNode& response, const std::string& name)
 {
     return findFirst(response, kItems, name);
+}
+
+IXMLDOMNode findItemByPrefix(const IXMLDOMNode& response, const std::string& prefix)
+{
+    // An expression compares characters, so half of one is left to it as well.
+    if (response.get_nodeType() != NodeType::document || !isQuotable(prefix, '\'') ||
+        !platform::utf8::isValid(prefix)) {
+        return response.selectSingleNode(byPrefix(kItems, prefix));
+    }
+    const IXMLDOMDocument document{response.ref()};
+    auto&                 items = indexOf(document).itemsByPrefix;
+    if (!items) {
+        items = makePrefixTable(document, kItems);
+    }
+    const auto place = items->names.first(prefix);
+    return place ? document.nodeAt(items->elements[*place]) : IXMLDOMNode{};
+}
+
+IXMLDOMNodeList findItemsByPrefix(const IXMLDOMNode& response, const std::string& prefix)
+{
+    return response.selectNodes(byPrefix(kItems, prefix));
 }
 
 std::string responseAttribute(const IXMLDOMNode& response, const std::string& name)

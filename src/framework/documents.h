@@ -40,6 +40,10 @@ inline constexpr const char* kNoUnit = "noUnit";
 
 /// `./data:dtm/data:persistentData/data:parameters/data:parameter[@name="NAME"]`
 [[nodiscard]] IXMLDOMNode findParameter(const IXMLDOMNode& datafile, const std::string& name);
+/// `./data:dtm/data:persistentData/data:parameters/data:parameter[starts-with(@name,'PREFIX')]`; a
+/// prefix with a single quote is failure 5.
+[[nodiscard]] IXMLDOMNodeList findParametersByPrefix(const IXMLDOMNode& datafile,
+                                                     const std::string& prefix);
 /// `./data:dtm/data:mappedParams/data:mappedParam[@name="NAME"]`
 [[nodiscard]] IXMLDOMNode findMappedParam(const IXMLDOMNode& datafile, const std::string& name);
 /// `./data:dtm/data:requestGroups/data:requestGroup[@name="NAME"]`
@@ -56,6 +60,12 @@ inline constexpr const char* kNoUnit = "noUnit";
 
 /// `comm:dtm/comm:communicationResponse/comm:item[@name = "NAME"]`
 [[nodiscard]] IXMLDOMNode findItem(const IXMLDOMNode& response, const std::string& name);
+/// `comm:dtm/comm:communicationResponse/comm:item[starts-with(@name,'PREFIX')]`: an empty prefix
+/// finds the first item, one with a single quote is a failure 5.
+[[nodiscard]] IXMLDOMNode findItemByPrefix(const IXMLDOMNode& response, const std::string& prefix);
+/// All that the expression of `findItemByPrefix` selects.
+[[nodiscard]] IXMLDOMNodeList findItemsByPrefix(const IXMLDOMNode& response,
+                                                const std::string& prefix);
 /// Text of `comm:dtm/comm:communicationResponse/@NAME`; failure 91 if it is missing.
 [[nodiscard]] std::string responseAttribute(const IXMLDOMNode& response, const std::string& name);
 /// `//comm:item[@name!="testStatus"]`

@@ -101,7 +101,7 @@ void Localize(IQornView& view, Translator& translator)
             localizeColumns(step, *list, translator);
         } else if (!isExcludedFromLocalize(*widget)) {
             step([&] {
-                if (auto* localizable = dynamic_cast<ILocalizable*>(&objectOf(*widget))) {
+                if (auto* localizable = dynamic_cast<ILocalizable*>(objectOf(*widget))) {
                     localizable->Localize(translator);
                 }
             });
@@ -118,7 +118,7 @@ void setMessenger(IQornView& view, Messenger* messenger)
             continue;
         }
         unheard([&] {
-            if (auto* component = dynamic_cast<IQornComponent*>(&objectOf(*widget))) {
+            if (auto* component = dynamic_cast<IQornComponent*>(objectOf(*widget))) {
                 component->SetMessenger(messenger);
             }
         });
@@ -145,7 +145,7 @@ void setImportData(IQornView& view, const IXMLDOMNode& datafile)
             }
         } else if (!isExcludedFromData(*widget)) {
             step([&] {
-                if (auto* user = dynamic_cast<IQornDataUser*>(&objectOf(*widget))) {
+                if (auto* user = dynamic_cast<IQornDataUser*>(objectOf(*widget))) {
                     user->SetImportData(datafile);
                 }
             });
@@ -173,7 +173,7 @@ void setOfflineData(IQornView& view, const IXMLDOMNode& datafile)
             }
         } else if (!isExcludedFromData(*widget)) {
             unheard([&] {
-                if (auto* user = dynamic_cast<IQornDataUser*>(&objectOf(*widget))) {
+                if (auto* user = dynamic_cast<IQornDataUser*>(objectOf(*widget))) {
                     user->SetOfflineData(datafile);
                 }
             });
@@ -214,7 +214,7 @@ void setOnlineData(IQornView& view, const IXMLDOMNode& response)
         } else {
             // No kind is excluded here: a plain widget has no object and is reported.
             step([&] {
-                if (auto* user = dynamic_cast<IQornDataUser*>(&objectOf(*widget))) {
+                if (auto* user = dynamic_cast<IQornDataUser*>(objectOf(*widget))) {
                     user->SetOnlineData(response);
                 }
             });

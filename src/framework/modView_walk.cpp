@@ -1,6 +1,7 @@
 #include "framework/modView_walk.h"
 
 #include "platform/failure.h"
+#include "platform/grid.h"
 #include "platform/utf8.h"
 
 #include <algorithm>
@@ -61,13 +62,13 @@ std::string groupIn(const std::string& tag)
     return platform::utf8::substring(tag, 5);
 }
 
-platform::Control& objectOf(platform::Widget& widget)
+platform::Control* objectOf(platform::Widget& widget)
 {
     auto* control = dynamic_cast<platform::Control*>(&widget);
-    if (control == nullptr) {
+    if (control == nullptr && dynamic_cast<platform::Grid*>(&widget) == nullptr) {
         throw platform::failure(platform::kNotSupportedByObject);
     }
-    return *control;
+    return control;
 }
 
 BoundEditor* boundEditor(platform::Widget& widget)

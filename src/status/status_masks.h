@@ -17,6 +17,9 @@ namespace quill::statusMasks {
 /// The value of a bit from 0 to 7; failure 9 for any other.
 [[nodiscard]] std::uint8_t bitValue(int bit);
 
+/// A byte as it stands in a mask: two upper-case digits.
+[[nodiscard]] std::string digitsOf(std::uint8_t value);
+
 /// The byte at a place, counted from 0. 255 behind the end: what a device does not list is switched
 /// on. One digit alone counts too. Failure 13 for what is not hexadecimal, 5 for a place below 0.
 [[nodiscard]] std::uint8_t getByte(const std::string& mask, int place);

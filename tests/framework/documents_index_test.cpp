@@ -266,5 +266,137 @@ TEST(DocumentsIndex, TheIndexOfAResponseAnswersWhatTheExpressionSelects)
     EXPECT_GT(found, 500U) << "the documents must hold something to find";
 }
 
+// --- By the beginning of a name ---------------------------------------------------------------
+
+std::string beginning(const char* path, const std::string& prefix)
+{
+    return std::string{path} + "[starts-with(@name,'" + prefix + "')]";
+}
+
+/// Names that begin with one another, at right and wrong places.
+IXMLDOMDocument responseOfBeginnings(std::mt19937& random)
+{
+    static const std::vector<std::string> names{"a",  "ab",  "abc", "abd", "b",   "",
+                                                "bc", "a b", "ä",   "äb",  "a\"b"};
+    std::string                           content;
+    for (auto responses = 1 + random() % 3; responses > 0; --responses) {
+        content += "<comm:communicationResponse>";
+        for (auto items = random() % 8; items > 0; --items) {
+            static const std::vector<std::string> tags{"comm:item", "comm:item", "comm:item",
+                                                       "item", "comm:other"};
+            const std::string&                    tag  = tags[random() % tags.size()];
+            std::string                           name = names[random() % names.size()];
+            if (const auto quote = name.find('"'); quote != std::string::npos) {
+                name.replace(quote, 1, "&quot;");
+            }
+            content += "<" + tag;
+            content += random() % 6 == 0 ? "" : " name=\"" + name + "\"";
+            content += random() % 6 == 0 ? "><comm:item name=\"ab\"/></" + tag + ">" : "/>";
+        }
+        content += "</comm:communicationResponse>";
+    }
+    return documents::openText(std::string{"<comm:dtm xmlns:comm=\""} +
+                               documents::kCommunicationSchema + "\">" + content + "</comm:dtm>");
+}
+
+TEST(DocumentsIndex, TheFirstItemByItsBeginningIsWhatTheExpressionSelects)
+{
+    const std::vector<std::string> prefixes{"a", "ab", "abc", "abcd", "b",
+                                            "",  "c",  "a ",  "ä",    "a\""};
+    std::mt19937                   random{3};
+    std::size_t                    found = 0;
+    for (int round = 0; round < 300; ++round) {
+        const auto response = responseOfBeginnings(random);
+        for (int edits = 0; edits < 3; ++edits) {
+            for (const std::string& prefix : prefixes) {
+                const auto node = documents::findItemByPrefix(response, prefix);
+                ASSERT_EQ(node, response.selectSingleNode(beginning(kItemPath, prefix)))
+                    << "round " << round << ", \"" << prefix << "\"";
+                found += node ? 1U : 0U;
+            }
+            const auto items = response.selectNodes("//comm:item");
+            if (items.get_length() > 0) {
+                const auto item = items.get_item(
+                    static_cast<long>(random() % static_cast<std::size_t>(items.get_length())));
+                if (random() % 2 == 0) {
+                    documents::writeAttribute(item, "name", random() % 2 == 0 ? "abd" : "b");
+                } else {
+                    item.get_parentNode().removeChild(item);
+                }
+            }
+        }
+    }
+    EXPECT_GT(found, 2000U) << "the documents must hold something to find";
+}
+
+TEST(DocumentsIndex, RandomResponsesAnswerByBeginningToo)
+{
+    for (unsigned seed = 0; seed < 60; ++seed) {
+        RandomDocument        random{seed};
+        const IXMLDOMDocument response = random.response();
+        for (int edits = 0; edits < 20; ++edits) {
+            for (const std::string prefix : {"a", "b", "", "a ", "none"}) {
+                ASSERT_EQ(documents::findItemByPrefix(response, prefix),
+                          response.selectSingleNode(beginning(kItemPath, prefix)))
+                    << "seed " << seed << ", edit " << edits << ", \"" << prefix << "\"";
+            }
+            random.edit(response);
+        }
+    }
+}
+
+TEST(DocumentsIndex, APrefixThatBreaksItsExpressionFailsAsItDoesThere)
+{
+    std::mt19937 random{1};
+    const auto   response = responseOfBeginnings(random);
+    for (const std::string prefix : {"it's", "'", "\x01"}) {
+        const auto number = [&](const auto& search) {
+            try {
+                (void)search();
+                return 0;
+            } catch (const platform::Failure& failure) {
+                return failure.number();
+            }
+        };
+        const int expected =
+            number([&] { return response.selectSingleNode(beginning(kItemPath, prefix)); });
+        EXPECT_EQ(number([&] { return documents::findItemByPrefix(response, prefix); }), expected);
+    }
+    EXPECT_THROW((void)documents::findItemByPrefix(response, "it's"), platform::Failure);
+    EXPECT_THROW((void)documents::findItemByPrefix({}, "a"), platform::Failure);
+}
+
+TEST(DocumentsIndex, FromAnotherNodeTheBeginningIsSearchedFromThere)
+{
+    const auto response = documents::openText(
+        std::string{"<comm:dtm xmlns:comm=\""} + documents::kCommunicationSchema +
+        "\"><comm:dtm><comm:communicationResponse><comm:item name=\"abc\"/>"
+        "</comm:communicationResponse></comm:dtm></comm:dtm>");
+    EXPECT_FALSE(documents::findItemByPrefix(response, "a"));
+    EXPECT_TRUE(documents::findItemByPrefix(response.get_documentElement(), "a"));
+}
+
+TEST(DocumentsIndex, AllParametersAndItemsOfABeginningComeInOrder)
+{
+    const auto datafile = documents::openText(
+        std::string{"<data:dtm xmlns:data=\""} + documents::kDatafileSchema +
+        "\"><data:persistentData><data:parameters><data:parameter name=\"mask2\"/>"
+        "<data:parameter name=\"xmask\"/><data:parameter name=\"mask1\"/></data:parameters>"
+        "<data:parameter name=\"mask3\"/></data:persistentData></data:dtm>");
+    const auto parameters = documents::findParametersByPrefix(datafile, "mask");
+    ASSERT_EQ(parameters.get_length(), 2);
+    EXPECT_EQ(documents::attributeText(parameters.get_item(0), "name"), "mask2");
+    EXPECT_EQ(documents::attributeText(parameters.get_item(1), "name"), "mask1");
+    EXPECT_THROW((void)documents::findParametersByPrefix(datafile, "'"), platform::Failure);
+
+    const auto response = documents::openText(
+        std::string{"<comm:dtm xmlns:comm=\""} + documents::kCommunicationSchema +
+        "\"><comm:communicationResponse><comm:item name=\"b\"/><comm:item name=\"ab\"/>"
+        "<comm:item name=\"a\"/></comm:communicationResponse></comm:dtm>");
+    const auto items = documents::findItemsByPrefix(response, "a");
+    ASSERT_EQ(items.get_length(), 2);
+    EXPECT_EQ(documents::attributeText(items.get_item(0), "name"), "ab");
+}
+
 } // namespace
 } // namespace quill

@@ -319,6 +319,17 @@ TEST_F(ModView, ImportReachesSubViewsAndReportsPlainWidgets)
                 ElementsAre(std::string("ReportError(modView setImportData: , ") + k438));
 }
 
+TEST_F(ModView, AGridHasAnObjectThatIsNoneOfOurs)
+{
+    Grid grid{page};
+    page.Localize(translator);
+    page.SetMessenger(&host);
+    page.SetImportData(datafile(""));
+    page.SetOfflineData(datafile(""));
+    page.SetOnlineData(okResponse("x"));
+    EXPECT_THAT(host.errors(), IsEmpty());
+}
+
 // --- setOfflineData --------------------------------------------------------------------------
 
 const char* const kGroups = R"(

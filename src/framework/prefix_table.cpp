@@ -1,0 +1,140 @@
+#include "framework/prefix_table.h"
+
+#include <algorithm>
+#include <limits>
+#include <utility>
+
+namespace quill {
+
+namespace {
+
+constexpr std::size_t kHeadBytes = 8;
+
+/// The first bytes as a number that is in the order of the texts; missing ones count as 0.
+std::uint64_t headOf(std::string_view tail)
+{
+    std::uint64_t head = 0;
+    for (std::size_t at = 0; at < kHeadBytes; ++at) {
+        head = head << 8U | (at < tail.size() ? static_cast<unsigned char>(tail[at]) : 0U);
+    }
+    return head;
+}
+
+std::size_t commonLength(const std::vector<std::string>& texts)
+{
+    if (texts.empty()) {
+        return 0;
+    }
+    std::string_view common = texts.front();
+    for (const std::string& text : texts) {
+        const auto [end, other] =
+            std::mismatch(common.begin(), common.end(), text.begin(), text.end());
+        common = common.substr(0, static_cast<std::size_t>(end - common.begin()));
+    }
+    return common.size();
+}
+
+} // namespace
+
+PrefixTable::PrefixTable(std::vector<std::string> texts)
+    : mTexts(std::move(texts)), mCommon(commonLength(mTexts))
+{
+    const std::size_t count = mTexts.size();
+    mSorted.resize(count);
+    for (std::size_t place = 0; place < count; ++place) {
+        mSorted[place].place = static_cast<std::uint32_t>(place);
+        mSorted[place].head  = headOf(tailOf(mSorted[place]));
+    }
+    std::sort(mSorted.begin(), mSorted.end(), [this](const Entry& a, const Entry& b) {
+        return a.head != b.head ? a.head < b.head : tailOf(a) < tailOf(b);
+    });
+    mLowest.resize(2 * count);
+    for (std::size_t leaf = 0; leaf < count; ++leaf) {
+        mLowest[count + leaf] = mSorted[leaf].place;
+    }
+    for (std::size_t node = count; node-- > 1;) {
+        mLowest[node] = std::min(mLowest[2 * node], mLowest[2 * node + 1]);
+    }
+    answerEachText();
+}
+
+std::string_view PrefixTable::tailOf(const Entry& entry) const
+{
+    return std::string_view{mTexts[entry.place]}.substr(mCommon);
+}
+
+std::optional<std::size_t> PrefixTable::first(std::string_view prefix) const
+{
+    if (mTexts.empty()) {
+        return std::nullopt;
+    }
+    if (mNext < mTexts.size() && mTexts[mNext] == prefix) {
+        return mAnswers[mNext++];
+    }
+    const std::size_t shared = std::min(prefix.size(), mCommon);
+    if (mTexts.front().compare(0, shared, prefix.substr(0, shared)) != 0) {
+        return std::nullopt;
+    }
+    const std::string_view rest = prefix.substr(shared);
+    if (rest.empty()) {
+        return 0;
+    }
+    // Those that begin with the prefix stand side by side.
+    const std::uint64_t head  = headOf(rest);
+    const auto          begin = std::lower_bound(
+                 mSorted.begin(), mSorted.end(), head, [&](const Entry& entry, std::uint64_t h) {
+            return entry.head != h ? entry.head < h : tailOf(entry) < rest;
+        });
+    const auto end = std::partition_point(
+        begin, mSorted.end(), [&](const Entry& entry) { return tailOf(entry).starts_with(rest); });
+    if (begin == end) {
+        return std::nullopt;
+    }
+    const std::uint32_t answer = lowest(static_cast<std::size_t>(begin - mSorted.begin()),
+                                        static_cast<std::size_t>(end - mSorted.begin()));
+    mNext                      = answer + 1U;
+    return answer;
+}
+
+std::uint32_t PrefixTable::lowest(std::size_t begin, std::size_t end) const
+{
+    std::uint32_t place = std::numeric_limits<std::uint32_t>::max();
+    begin += mSorted.size();
+    end += mSorted.size();
+    for (; begin < end; begin /= 2, end /= 2) {
+        if (begin % 2 == 1) {
+            place = std::min(place, mLowest[begin++]);
+        }
+        if (end % 2 == 1) {
+            place = std::min(place, mLowest[--end]);
+        }
+    }
+    return place;
+}
+
+void PrefixTable::answerEachText()
+{
+    // From the back: those that begin with a text stand right behind it, in runs that are done.
+    const std::size_t        count = mSorted.size();
+    std::vector<std::size_t> ends(count); // where the run of each text ends
+    mAnswers.resize(count);
+    for (std::size_t at = count; at-- > 0;) {
+        const std::string_view text   = tailOf(mSorted[at]);
+        std::uint32_t          answer = mSorted[at].place;
+        std::size_t            end    = at + 1;
+        while (end < count && tailOf(mSorted[end]).starts_with(text)) {
+            answer = std::min(answer, mAnswers[mSorted[end].place]);
+            end    = ends[end];
+        }
+        ends[at]                    = end;
+        mAnswers[mSorted[at].place] = answer;
+    }
+    // Of equal texts each begins with the others.
+    for (std::size_t at = 1; at < count; ++at) {
+        if (tailOf(mSorted[at]) == tailOf(mSorted[at - 1])) {
+            mAnswers[mSorted[at].place] = mAnswers[mSorted[at - 1].place];
+        }
+    }
+}
+
+} // namespace quill

@@ -1,0 +1,149 @@
+#include "status/status_masks.h"
+
+#include "platform/failure.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <functional>
+
+namespace quill::statusMasks {
+namespace {
+
+/// The number of the failure that a call raises, 0 for none.
+int failureOf(const std::function<void()>& call)
+{
+    try {
+        call();
+    } catch (const platform::Failure& failure) {
+        return failure.number();
+    }
+    return 0;
+}
+
+TEST(StatusMasks, HalfTheDigitsAreBytesATieGoesToTheEvenNumber)
+{
+    EXPECT_EQ(bytesInPart(8), 4);
+    EXPECT_EQ(bytesInPart(2), 1);
+    EXPECT_EQ(bytesInPart(0), 0);
+    EXPECT_EQ(bytesInPart(1), 0);
+    EXPECT_EQ(bytesInPart(3), 2);
+    EXPECT_EQ(bytesInPart(5), 2);
+    EXPECT_EQ(bytesInPart(7), 4);
+    EXPECT_EQ(bytesInPart(9), 4);
+    EXPECT_EQ(bytesInPart(11), 6);
+}
+
+TEST(StatusMasks, PartsCountFromOneAndBytesWithinThemFromZero)
+{
+    const int bytes = 4;
+    EXPECT_EQ(partOf(0, bytes), 1);
+    EXPECT_EQ(byteInPart(0, bytes), 0);
+    EXPECT_EQ(partOf(3, bytes), 1);
+    EXPECT_EQ(byteInPart(3, bytes), 3);
+    EXPECT_EQ(partOf(4, bytes), 2);
+    EXPECT_EQ(byteInPart(4, bytes), 0);
+    EXPECT_EQ(partOf(11, bytes), 3);
+    EXPECT_EQ(byteInPart(11, bytes), 3);
+}
+
+TEST(StatusMasks, DivisionCutsTowardsZeroForBytesThatAreNone)
+{
+    EXPECT_EQ(partOf(-1, 4), 1);
+    EXPECT_EQ(byteInPart(-1, 4), -1);
+    EXPECT_EQ(partOf(-5, 4), 0);
+}
+
+TEST(StatusMasks, APartWithoutBytesCannotBeDividedBy)
+{
+    EXPECT_EQ(failureOf([] { std::ignore = partOf(3, 0); }), platform::kDivisionByZero);
+    EXPECT_EQ(failureOf([] { std::ignore = byteInPart(3, 0); }), platform::kDivisionByZero);
+}
+
+TEST(StatusMasks, BitsHaveTheValuesOfPowersOfTwo)
+{
+    const std::vector<int> expected{1, 2, 4, 8, 16, 32, 64, 128};
+    for (int bit = 0; bit < 8; ++bit) {
+        EXPECT_EQ(bitValue(bit), expected[static_cast<std::size_t>(bit)]);
+    }
+    EXPECT_EQ(failureOf([] { std::ignore = bitValue(-1); }), platform::kSubscriptOutOfRange);
+    EXPECT_EQ(failureOf([] { std::ignore = bitValue(8); }), platform::kSubscriptOutOfRange);
+}
+
+TEST(StatusMasks, AByteIsTwoUpperCaseDigits)
+{
+    EXPECT_EQ(digitsOf(0), "00");
+    EXPECT_EQ(digitsOf(0x0a), "0A");
+    EXPECT_EQ(digitsOf(0xff), "FF");
+    EXPECT_EQ(digitsOf(0x5c), "5C");
+}
+
+TEST(StatusMasks, ReadsTheByteOfAPlaceInEitherLetterCase)
+{
+    EXPECT_EQ(getByte("00a1Ff", 0), 0);
+    EXPECT_EQ(getByte("00a1Ff", 1), 0xa1);
+    EXPECT_EQ(getByte("00a1Ff", 2), 0xff);
+}
+
+TEST(StatusMasks, BehindTheEndAllIsSwitchedOn)
+{
+    EXPECT_EQ(getByte("0000", 2), 255);
+    EXPECT_EQ(getByte("", 0), 255);
+    EXPECT_EQ(getByte("0000", INT_MAX), 255);
+    EXPECT_EQ(getByte("0000", INT_MAX / 2), 255);
+}
+
+TEST(StatusMasks, OneDigitAloneCounts)
+{
+    EXPECT_EQ(getByte("00A", 1), 10);
+    EXPECT_EQ(getByte("7", 0), 7);
+}
+
+TEST(StatusMasks, WhatIsNotHexadecimalIsATypeMismatch)
+{
+    for (const char* mask : {"G0", "0G", " 1", "1 ", "-1", "+1", "0x", "ää", "\xff\xff"}) {
+        EXPECT_EQ(failureOf([&] { std::ignore = getByte(mask, 0); }), platform::kTypeMismatch)
+            << mask;
+    }
+}
+
+TEST(StatusMasks, PlacesCountCharactersAndNotBytesOfTheEncoding)
+{
+    EXPECT_EQ(getByte("ää7F", 1), 0x7f);
+    EXPECT_EQ(setByte("ää7F", 1, 1), "ää01");
+}
+
+TEST(StatusMasks, APlaceBelowZeroIsAnInvalidCall)
+{
+    EXPECT_EQ(failureOf([] { std::ignore = getByte("00", -1); }), platform::kInvalidCall);
+    EXPECT_EQ(failureOf([] { std::ignore = setByte("00", -1, 0); }), platform::kInvalidCall);
+}
+
+TEST(StatusMasks, WritesAByteInUpperCaseAndLeavesTheOthersAsTheyStand)
+{
+    EXPECT_EQ(setByte("aabbcc", 0, 0x0f), "0Fbbcc");
+    EXPECT_EQ(setByte("aabbcc", 1, 0xde), "aaDEcc");
+    EXPECT_EQ(setByte("aabbcc", 2, 0), "aabb00");
+}
+
+TEST(StatusMasks, AByteBehindTheEndIsAppended)
+{
+    EXPECT_EQ(setByte("aa", 1, 1), "aa01");
+    EXPECT_EQ(setByte("aa", 5, 1), "aa01");
+    EXPECT_EQ(setByte("", 0, 1), "01");
+    EXPECT_EQ(setByte("aa", INT_MAX, 1), "aa01");
+}
+
+TEST(StatusMasks, AHalfByteAtTheEndIsReplacedByAWholeOne)
+{
+    EXPECT_EQ(setByte("aab", 1, 1), "aa01");
+}
+
+TEST(StatusMasks, WhatIsNotHexadecimalIsReplacedAllTheSame)
+{
+    EXPECT_EQ(setByte("GG00", 0, 0x80), "8000");
+}
+
+} // namespace
+} // namespace quill::statusMasks
