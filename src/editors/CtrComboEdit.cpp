@@ -1,12 +1,12 @@
 #include "editors/CtrComboEdit.h"
 
+#include "editors/value_list.h"
 #include "framework/documents.h"
 #include "framework/modTools.h"
 #include "framework/values.h"
 
 #include <algorithm>
 #include <utility>
-#include <vector>
 
 namespace quill {
 
@@ -22,17 +22,6 @@ constexpr std::int32_t kInfoGap   = 50;
 
 /// Entries that the device fixes: an editor that shows one of them is not edited.
 constexpr const char* kFixedEntries[] = {"Not In Use", "Nicht in Gebrauch", "Ei käytössä"};
-
-IXMLDOMNodeList elementsOf(const IXMLDOMNode& parent)
-{
-    std::vector<IXMLDOMNode> elements;
-    for (const IXMLDOMNode& child : parent.get_childNodes()) {
-        if (child.get_nodeType() == platform::NodeType::element) {
-            elements.push_back(child);
-        }
-    }
-    return IXMLDOMNodeList{std::move(elements)};
-}
 
 std::int16_t comboIndexOf(const IXMLDOMNode& entry)
 {
@@ -91,7 +80,7 @@ void CtrComboEdit::SetMappings(const IXMLDOMNode& mappedParam)
         return;
     }
     const Steps step = steps("SetMappings");
-    if (!step([&] { mMappings = elementsOf(mappedParam.cloneNode(true)); })) {
+    if (!step([&] { mMappings = valueList::entriesOf(mappedParam.cloneNode(true)); })) {
         return;
     }
     cboBox.Clear();
@@ -167,16 +156,8 @@ void CtrComboEdit::SetItemVisibilityAll(bool visibility)
 
 std::int16_t CtrComboEdit::GetIndex(const std::string& value) const
 {
-    const Steps step = steps("GetIndex");
-    std::string text = value;
-    if (mValueType == "floatVal") {
-        step([&] {
-            const std::string local = values::replaceAll(text, ".", values::decimalSeparator());
-            if (values::isNumeric(local)) {
-                text = std::to_string(values::toInt32(values::parseLocal(local)));
-            }
-        });
-    }
+    const Steps       step = steps("GetIndex");
+    const std::string text = valueList::keyOf(step, value, mValueType);
     if (!mMappings) {
         step([&] {
             host().WriteLog(kLogConfiguration, "Error: Combo " + Tag.get() +

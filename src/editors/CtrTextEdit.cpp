@@ -6,26 +6,17 @@
 #include "platform/toolkit.h"
 #include "platform/utf8.h"
 
-#include <bit>
-#include <cmath>
-
 namespace quill {
 
 namespace utf8 = platform::utf8;
 
-const double CtrTextEdit::kUpperSentinel = std::bit_cast<double>(0x7FEFFFFFFFFFFFE2);
-const double CtrTextEdit::kLowerSentinel = std::bit_cast<double>(0xFFEFFFFFFFFFFFE2);
-
-CtrTextEdit::CtrTextEdit(const platform::Design& design)
-    : EditorBase(design), mLimitMin(kLowerSentinel), mLimitMax(kUpperSentinel),
-      mPairUpperLimit(kUpperSentinel), mPairLowerLimit(kLowerSentinel)
+CtrTextEdit::CtrTextEdit(const platform::Design& design) : EditorBase(design)
 {
     start();
 }
 
 CtrTextEdit::CtrTextEdit(platform::Widget& container, const platform::Design& design)
-    : EditorBase(container, design), mLimitMin(kLowerSentinel), mLimitMax(kUpperSentinel),
-      mPairUpperLimit(kUpperSentinel), mPairLowerLimit(kLowerSentinel)
+    : EditorBase(container, design)
 {
     start();
 }
@@ -92,8 +83,7 @@ void CtrTextEdit::messengerChanged(Messenger* messenger)
 
 std::string CtrTextEdit::formatted(const std::string& text) const
 {
-    return values::isNumeric(text) ? values::formatNumber(values::parseLocal(text), mNumberFormat)
-                                   : text;
+    return numberRules::formatted(text, mFormat.pattern);
 }
 
 void CtrTextEdit::setText(const std::string& text)
@@ -118,21 +108,7 @@ void CtrTextEdit::Uninitialize()
 
 double CtrTextEdit::dblAComparedToB(double a, double b) const
 {
-    constexpr double kBeyond = 50;
-    if (a == kUpperSentinel || b == kLowerSentinel) {
-        return kBeyond;
-    }
-    if (a == kLowerSentinel || b == kUpperSentinel) {
-        return -kBeyond;
-    }
-    const double tolerance = mDecimalCount < 1 ? 0.9 : 0.9 * std::pow(0.1, mDecimalCount + 2);
-    const double distance  = a - b;
-    return std::fabs(distance) < tolerance ? 0 : distance;
-}
-
-bool CtrTextEdit::isInside(double value, double lower, double upper) const
-{
-    return dblAComparedToB(value, lower) >= 0 && dblAComparedToB(value, upper) <= 0;
+    return numberRules::compare(a, b, mFormat.decimals);
 }
 
 void CtrTextEdit::txtBox_Change()
@@ -173,7 +149,7 @@ void CtrTextEdit::checkNumber(const Steps& step)
         return;
     }
     const double compareValue = compareValueOf(step, value);
-    if (!isInside(compareValue, mLimitMin, mLimitMax)) {
+    if (!numberRules::isInside(compareValue, mLimits, mFormat.decimals)) {
         setCorrect(false);
     } else if (values::isIntegerType(mValueType) && value != values::roundToEven(value)) {
         setCorrect(false);
@@ -234,30 +210,6 @@ void CtrTextEdit::writeBack(const Steps& step)
     step([&] { mWriter.markOutOfStep(mDataNode); });
 }
 
-void CtrTextEdit::forwardChanges()
-{
-    if (messenger() == nullptr) {
-        return;
-    }
-    const Steps step = steps("forwardChanges");
-    const auto  move = [&](const char* state) {
-        mChangeState = state;
-        step([&] { reportState(state); });
-    };
-    if (mChangeState == "original" && Modified()) {
-        move("edited");
-    } else if (mChangeState == "editedError" && Correct()) {
-        move("corrected");
-    }
-    if (mChangeState == "edited" || mChangeState == "corrected") {
-        if (!Correct()) {
-            move("editedError");
-        } else if (!Modified()) {
-            move("original");
-        }
-    }
-}
-
 // --- The pair ---------------------------------------------------------------------------------
 
 void CtrTextEdit::setParameterPair(CtrTextEdit* pair, const std::string& pairLimitingWhat,
@@ -308,8 +260,9 @@ void CtrTextEdit::setPairLimit(double limit, const std::string& pairLimitingWhat
     if (values::isNumeric(txtBox.Text)) {
         step([&] {
             const double value = compareValueOf(step, values::parseLocal(txtBox.Text));
-            correct            = isInside(value, mPairLowerLimit, mPairUpperLimit) &&
-                      isInside(value, mLimitMin, mLimitMax);
+            correct            = numberRules::isInside(value, {mPairLowerLimit, mPairUpperLimit},
+                                                       mFormat.decimals) &&
+                      numberRules::isInside(value, mLimits, mFormat.decimals);
         });
     }
     setCorrect(correct);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "editors/editor_base.h"
+#include "editors/number_rules.h"
 #include "platform/text_box.h"
 
 #include <cstdint>
@@ -80,12 +81,12 @@ public:
 
     [[nodiscard]] const std::string& originalText() const { return mOriginalText; }
     [[nodiscard]] const std::string& messageUnit() const { return mMessageUnit; }
-    [[nodiscard]] const std::string& numberFormat() const { return mNumberFormat; }
+    [[nodiscard]] const std::string& numberFormat() const { return mFormat.pattern; }
     [[nodiscard]] const std::string& accessText() const { return mAccessText; }
     [[nodiscard]] const std::string& decimalSeparator() const { return mDecimalSeparator; }
-    [[nodiscard]] std::int16_t       decimalCount() const { return mDecimalCount; }
-    [[nodiscard]] double             limitMin() const { return mLimitMin; }
-    [[nodiscard]] double             limitMax() const { return mLimitMax; }
+    [[nodiscard]] std::int16_t       decimalCount() const { return mFormat.decimals; }
+    [[nodiscard]] double             limitMin() const { return mLimits.min; }
+    [[nodiscard]] double             limitMax() const { return mLimits.max; }
     [[nodiscard]] bool               allowEmpty() const { return mAllowEmpty; }
     [[nodiscard]] bool               packedAscii() const { return mPackedAscii; }
     [[nodiscard]] double             pairUpperLimit() const { return mPairUpperLimit; }
@@ -96,10 +97,10 @@ public:
     [[nodiscard]] CtrTextEdit*       pairMaxPartner() const { return mPairMaxPartner; }
 
     /// "No limit" of a double: the doubles of these bit patterns, not the largest ones.
-    static const double kUpperSentinel; // 0x7FEFFFFFFFFFFFE2
-    static const double kLowerSentinel; // 0xFFEFFFFFFFFFFFE2
+    static constexpr double kUpperSentinel = numberRules::kUpperSentinel;
+    static constexpr double kLowerSentinel = numberRules::kLowerSentinel;
     /// "No limit" of an integer, with either sign.
-    static constexpr double kIntegerSentinel = 2147483647.0;
+    static constexpr double kIntegerSentinel = numberRules::kIntegerSentinel;
 
 protected:
     [[nodiscard]] const char*             word() const override { return "TextEdit"; }
@@ -109,7 +110,7 @@ protected:
     void keepOriginal() override { mOriginalText = txtBox.Text.get(); }
     void messengerChanged(Messenger* messenger) override;
     void ViewGetChanges(std::int16_t scope) override;
-    void forwardChanges() override;
+    void forwardChanges() override { forwardCheckedChanges(); }
 
 private:
     void start();
@@ -135,12 +136,9 @@ private:
                                                const std::string& from,
                                                const std::string& to) const;
     [[nodiscard]] double               compareValueOf(const Steps& step, double value) const;
-    [[nodiscard]] bool                 isInside(double value, double lower, double upper) const;
     [[nodiscard]] bool                 hasConvertibleUnit() const;
     [[nodiscard]] bool                 hasLimitMin() const;
     [[nodiscard]] bool                 hasLimitMax() const;
-    void                               readFormat(const Steps& step, const IXMLDOMNode& parameter);
-    void                               readLimits(const Steps& step, const IXMLDOMNode& parameter);
     void                               showLimits();
     void                               showLimitsIn(const Steps& step, const std::string& unit);
     /// An item's text in the visible unit; the visible unit follows where it cannot be converted.
@@ -152,23 +150,22 @@ private:
     CtrTextEdit*& partner(bool isMin) { return isMin ? mPairMinPartner : mPairMaxPartner; }
 
     std::string  mOriginalText;
-    std::string  mMessageUnit  = "noUnit";
-    std::string  mNumberFormat = "######0";
+    std::string  mMessageUnit = "noUnit";
     std::string  mAccessText;
     std::string  mDecimalSeparator;
-    double       mLimitMin;
-    double       mLimitMax;
-    double       mPairUpperLimit;
-    double       mPairLowerLimit;
+    double       mPairUpperLimit    = kUpperSentinel;
+    double       mPairLowerLimit    = kLowerSentinel;
     double       mPairDifferenceMin = 0;
     double       mPairDifferenceMax = 0;
     CtrTextEdit* mPairMinPartner    = nullptr;
     CtrTextEdit* mPairMaxPartner    = nullptr;
 
+    numberRules::Limits mLimits;
+    numberRules::Format mFormat;
+
     IXMLDOMDocument mItemDocument;
-    std::int16_t    mDecimalCount = 0;
-    bool            mAllowEmpty   = true;
-    bool            mPackedAscii  = false;
+    bool            mAllowEmpty  = true;
+    bool            mPackedAscii = false;
 
     platform::Subscription mOnUnits;
     platform::Subscription mOnChange;

@@ -6,8 +6,6 @@
 #include "framework/values.h"
 #include "platform/utf8.h"
 
-#include <algorithm>
-
 namespace quill {
 
 using namespace editorColors;
@@ -15,42 +13,8 @@ using namespace editorColors;
 namespace {
 
 constexpr const char* kNoUnit = "noUnit";
-constexpr const char* kCrLf   = "\r\n";
-/// Behind these no double has a digit but 0: a datafile that asks for more gets no longer texts.
-constexpr std::int16_t kMostDecimals = 340;
 
 } // namespace
-
-void CtrTextEdit::readLimits(const Steps& step, const IXMLDOMNode& parameter)
-{
-    const bool isInteger = values::isIntegerType(mValueType);
-    const auto take      = [&](const char* attribute, double none, double& limit) {
-        const std::string text = read(step, parameter, attribute);
-        if (text.empty()) {
-            limit = none;
-        } else {
-            step([&] { limit = modTools::ParseNumber(text); });
-        }
-    };
-    take("minVal", isInteger ? -kIntegerSentinel : kLowerSentinel, mLimitMin);
-    take("maxVal", isInteger ? kIntegerSentinel : kUpperSentinel, mLimitMax);
-}
-
-void CtrTextEdit::readFormat(const Steps& step, const IXMLDOMNode& parameter)
-{
-    const std::string decimals = read(step, parameter, "decimals");
-    if (decimals.empty()) {
-        mNumberFormat = "######0.000";
-        mDecimalCount = 3;
-        return;
-    }
-    step([&] { mDecimalCount = values::toInt16(modTools::ParseNumber(decimals)); });
-    mNumberFormat = "######0";
-    if (mDecimalCount >= 1) {
-        mNumberFormat += '.';
-        mNumberFormat.append(static_cast<std::size_t>(std::min(mDecimalCount, kMostDecimals)), '0');
-    }
-}
 
 bool CtrTextEdit::setOfflineData(const IXMLDOMNode& parameter)
 {
@@ -64,10 +28,10 @@ bool CtrTextEdit::setOfflineData(const IXMLDOMNode& parameter)
 
     if (values::isNumericType(mValueType)) {
         txtBox.Alignment = static_cast<std::int32_t>(platform::TextAlignment::right);
-        readLimits(step, parameter);
+        mLimits          = numberRules::readLimits(step, parameter, mValueType, mLimits);
         if (values::isFloatType(mValueType)) {
-            readFormat(step, parameter);
-            value = values::replaceAll(value, ".", mDecimalSeparator);
+            mFormat = numberRules::readFormat(step, parameter, mFormat);
+            value   = values::replaceAll(value, ".", mDecimalSeparator);
         }
         const std::string unit = read(step, parameter, "unit");
         mMessageUnit           = unit.empty() ? kNoUnit : unit;
@@ -114,22 +78,7 @@ bool CtrTextEdit::setOfflineData(const IXMLDOMNode& parameter)
 std::string CtrTextEdit::inVisibleUnit(const Steps& step, const IXMLDOMNode& item,
                                        const std::string& text, bool isLocal)
 {
-    std::string unit = read(step, item, "unit");
-    if (unit != mMessageUnit) {
-        const std::string mismatch = Tag.get() + " viestin yksikkö " + unit + " <> " +
-                                     mMessageUnit + " Datafilessä!" + kCrLf;
-        if (unit != kNoUnit && !unit.empty()) {
-            step([&] { host().WriteLog(kLogUnit, mismatch + "Käytän VIESTIN yksikköä " + unit); });
-        } else {
-            if (!isLocal) {
-                step([&] {
-                    host().WriteLog(kLogUnit,
-                                    mismatch + "Käytän Datafilen yksikköä " + mMessageUnit);
-                });
-            }
-            unit = mMessageUnit;
-        }
-    }
+    const std::string unit    = unitOfItem(step, item, mMessageUnit, isLocal);
     const std::string visible = visibleUnit();
     if (unit == visible) {
         return text;
@@ -226,15 +175,7 @@ bool CtrTextEdit::setImportData(const IXMLDOMNode& parameter)
 
 void CtrTextEdit::handleError(const std::string& code)
 {
-    if (code == "missingItems" || code == "commandIsNotImplemented") {
-        setModified(true);
-        setCorrect(false);
-        forwardChanges();
-    } else if (code == "communicationError") {
-        takeAsSyncError();
-    } else if (isRefusal(code)) {
-        takeAsRefused();
-    }
+    handleCheckedError(code);
 }
 
 void CtrTextEdit::ViewGetChanges(std::int16_t scope)

@@ -83,21 +83,21 @@ bool CtrTextEdit::hasConvertibleUnit() const
 
 bool CtrTextEdit::hasLimitMin() const
 {
-    return mLimitMin != kLowerSentinel && mLimitMin != kUpperSentinel &&
-           mLimitMin != -kIntegerSentinel;
+    return mLimits.min != kLowerSentinel && mLimits.min != kUpperSentinel &&
+           mLimits.min != -kIntegerSentinel;
 }
 
 bool CtrTextEdit::hasLimitMax() const
 {
-    return mLimitMax != kLowerSentinel && mLimitMax != kUpperSentinel &&
-           mLimitMax != kIntegerSentinel;
+    return mLimits.max != kLowerSentinel && mLimits.max != kUpperSentinel &&
+           mLimits.max != kIntegerSentinel;
 }
 
 void CtrTextEdit::showLimits()
 {
     const std::string unit = mMessageUnit == kNoUnit ? std::string{} : mMessageUnit;
-    const std::string min  = values::numberText(mLimitMin);
-    const std::string max  = values::numberText(mLimitMax);
+    const std::string min  = values::numberText(mLimits.min);
+    const std::string max  = values::numberText(mLimits.max);
     if (hasLimitMin()) {
         txtBox.ToolTipText = " >= " + min + " " + unit;
     }
@@ -111,13 +111,13 @@ void CtrTextEdit::showLimitsIn(const Steps& step, const std::string& unit)
 {
     std::optional<float> min;
     if (hasLimitMin()) {
-        min = convert(step, mLimitMin, mMessageUnit, unit);
+        min = convert(step, mLimits.min, mMessageUnit, unit);
         if (min) {
             txtBox.ToolTipText = " > " + values::numberText(*min) + " " + unit;
         }
     }
     if (hasLimitMax()) {
-        if (const auto max = convert(step, mLimitMax, mMessageUnit, unit)) {
+        if (const auto max = convert(step, mLimits.max, mMessageUnit, unit)) {
             const std::string text = values::numberText(*max) + " " + unit;
             txtBox.ToolTipText     = min ? values::numberText(*min) + ".." + text : " < " + text;
         }
@@ -225,7 +225,7 @@ void CtrTextEdit::ViewSetUnits()
                 if (values::isNumeric(original)) {
                     if (const auto old = convert(step, original, visible, unit)) {
                         mOriginalText =
-                            values::formatNumber(static_cast<double>(*old), mNumberFormat);
+                            values::formatNumber(static_cast<double>(*old), mFormat.pattern);
                     }
                 }
                 forwardChanges();

@@ -1,10 +1,5 @@
 #include "editors/editor_base.h"
 
-#include "framework/documents.h"
-#include "framework/values.h"
-#include "platform/failure.h"
-#include "platform/utf8.h"
-
 #include <algorithm>
 
 namespace quill {
@@ -13,20 +8,18 @@ using namespace editorColors;
 
 namespace {
 
-constexpr std::int32_t kDefaultWidth  = 2400;
-constexpr std::int32_t kDefaultHeight = 315;
-constexpr std::int32_t kSignWidth     = 120;
-constexpr std::int32_t kGap           = 100;
+constexpr std::int32_t kSignWidth = 120;
+constexpr std::int32_t kGap       = 100;
 
 } // namespace
 
-EditorBase::EditorBase(const platform::Design& design) : Control(design)
+EditorBase::EditorBase(const platform::Design& design) : EditorCore(design)
 {
     start();
 }
 
 EditorBase::EditorBase(platform::Widget& container, const platform::Design& design)
-    : Control(container, design)
+    : EditorCore(container, design)
 {
     start();
 }
@@ -37,12 +30,6 @@ void EditorBase::start()
     lblError.ForeColor    = kRed;
     lblModified.Width     = kSignWidth;
     lblError.Width        = kSignWidth;
-    if (Width == 0) {
-        Width = kDefaultWidth;
-    }
-    if (Height == 0) {
-        Height = kDefaultHeight;
-    }
 }
 
 void EditorBase::layout(std::int32_t unitWidth)
@@ -56,13 +43,20 @@ void EditorBase::layout(std::int32_t unitWidth)
     lblError.Height          = Height.get();
 }
 
+void EditorBase::paintBoxes(platform::Color color)
+{
+    for (std::size_t i = 0; i < boxCount(); ++i) {
+        boxAt(i).ForeColor = color;
+    }
+}
+
 void EditorBase::setCorrect(bool correct)
 {
     lblError.Visible = !correct;
     if (correct) {
         setModified(Modified());
     } else {
-        box().ForeColor = kRed;
+        paintBoxes(kRed);
     }
 }
 
@@ -70,176 +64,74 @@ void EditorBase::setModified(bool modified)
 {
     lblModified.Visible = modified;
     if (modified) {
-        box().ForeColor = kBlue;
+        paintBoxes(kBlue);
     } else {
         keepOriginal();
-        box().ForeColor = Correct() ? platform::kWindowText : kRed;
+        paintBoxes(Correct() ? platform::kWindowText : kRed);
     }
-}
-
-void EditorBase::SetModifiedForward(bool modified)
-{
-    setModified(modified);
-    forwardChanges();
 }
 
 void EditorBase::paintText()
 {
-    box().ForeColor = !Correct() ? kRed : Modified() ? kBlue : platform::kWindowText;
+    paintBoxes(!Correct() ? kRed : Modified() ? kBlue : platform::kWindowText);
 }
 
-bool EditorBase::Enabled() const
+void EditorBase::forwardCheckedChanges()
 {
-    return box().Enabled;
-}
-
-void EditorBase::setEnabled(bool enabled)
-{
-    if (mSilent && isLocked()) {
-        return;
-    }
-    box().Enabled   = enabled;
-    box().BackColor = enabled ? kWhite : kGrey;
-    if (enabled) {
-        paintText();
-    }
-}
-
-void EditorBase::SetMessenger(Messenger* messenger)
-{
-    mMessenger = messenger;
-    mOnMode.drop();
-    mOnGetChanges.drop();
-    messengerChanged(messenger);
-    if (messenger == nullptr) {
-        return;
-    }
-    mOnMode = messenger->ViewSetCommunicationMode.subscribe(
-        [this](std::int32_t mode) { box().Enabled = mode != kEditingBarred; });
-    mOnGetChanges =
-        messenger->ViewGetChanges.subscribe([this](std::int16_t scope) { ViewGetChanges(scope); });
-}
-
-void EditorBase::Localize(Translator& translator)
-{
-    const Steps step = steps("Localize");
-    step([&] { mLabelText = translator.TranslateTag(Tag); });
-}
-
-Messenger& EditorBase::host() const
-{
-    if (mMessenger == nullptr) {
-        throw platform::failure(platform::kObjectNotSet);
-    }
-    return *mMessenger;
-}
-
-void EditorBase::bindTo(const IXMLDOMNode& parameter)
-{
-    if (!mDataNode) {
-        mDataNode = parameter;
-    }
-}
-
-std::string EditorBase::read(const Steps& step, const IXMLDOMNode& node, const char* attribute)
-{
-    return step.text([&] { return documents::attributeText(node, attribute); });
-}
-
-void EditorBase::reportState(const std::string& state) const
-{
-    if (mMessenger != nullptr) {
-        mMessenger->SetParameterState(
-            Container() != nullptr ? Container()->Tag.get() : std::string{}, state);
-    }
-}
-
-void EditorBase::forwardChanges()
-{
-    if (mMessenger == nullptr) {
+    if (messenger() == nullptr) {
         return;
     }
     const Steps step = steps("forwardChanges");
-    if (Modified() && mChangeState == "original") {
-        mChangeState = "edited";
-        step([&] { reportState(mChangeState); });
-    } else if (!Modified() && mChangeState == "edited") {
-        mChangeState = "original";
-        step([&] { reportState(mChangeState); });
+    const auto  move = [&](const char* state) {
+        mChangeState = state;
+        step([&] { reportState(state); });
+    };
+    if (mChangeState == "original" && Modified()) {
+        move("edited");
+    } else if (mChangeState == "editedError" && Correct()) {
+        move("corrected");
+    }
+    if (mChangeState == "edited" || mChangeState == "corrected") {
+        if (!Correct()) {
+            move("editedError");
+        } else if (!Modified()) {
+            move("original");
+        }
     }
 }
 
-void EditorBase::forwardSyncChanges()
+void EditorBase::handleCheckedError(const std::string& code)
 {
-    if (!mHasSynced) {
-        return;
+    if (code == "missingItems" || code == "commandIsNotImplemented") {
+        setModified(true);
+        setCorrect(false);
+        forwardChanges();
+    } else if (code == "communicationError") {
+        takeAsSyncError();
+    } else if (isRefusal(code)) {
+        takeAsRefused();
     }
-    if (mSyncState == "notRead") {
-        mSyncState = "sync";
-    } else if (mSyncState == "syncError") {
-        mSyncState = "reSync";
+}
+
+std::string EditorBase::unitOfItem(const Steps& step, const IXMLDOMNode& item,
+                                   const std::string& datafileUnit, bool isLocal) const
+{
+    const std::string unit = read(step, item, "unit");
+    if (unit == datafileUnit) {
+        return unit;
     }
-    const Steps step = steps("forwardSyncChanges");
-    step([&] { reportState(mSyncState); });
-}
-
-void EditorBase::takeAsSynced()
-{
-    mHasSynced = true;
-    forwardSyncChanges();
-}
-
-void EditorBase::takeAsSyncError()
-{
-    mHasSynced       = false;
-    mSyncState       = "syncError";
-    const Steps step = steps("handleError");
-    step([&] { reportState(mSyncState); });
-}
-
-void EditorBase::takeAsRefused()
-{
-    setModified(false);
-    forwardChanges();
-    takeAsSynced();
-}
-
-bool EditorBase::isRefusal(const std::string& code)
-{
-    return code == "hartCmdErrSuspiciousCalibration" ||
-           code == "hartCmdErrRecipeNotCalibratedOrPulpTypeNotAllowed";
-}
-
-bool EditorBase::isAskedFor(std::int16_t scope) const
-{
-    return (scope == kModifiedEditors && Modified()) ||
-           (scope == kAllEditors && !mContextTag.empty());
-}
-
-void EditorBase::writeValue(const Steps& step, const std::string& value)
-{
-    if (!mDataNode) {
-        return;
+    const std::string mismatch =
+        Tag.get() + " viestin yksikkö " + unit + " <> " + datafileUnit + " Datafilessä!\r\n";
+    if (unit != documents::kNoUnit && !unit.empty()) {
+        step([&] { host().WriteLog(kLogUnit, mismatch + "Käytän VIESTIN yksikköä " + unit); });
+        return unit;
     }
-    step([&] { mWriter.writeValue(mDataNode, value); });
-    step([&] { mWriter.markOutOfStep(mDataNode); });
-}
-
-IXMLDOMDocument EditorBase::itemOf(const Steps& step, const std::string& type,
-                                   const std::string& value) const
-{
-    constexpr std::int32_t kPrefixLength = 4; // "ctr_"
-    return step.value(IXMLDOMDocument::create(), [&] {
-        return Tag.get().empty() || type.empty()
-                   ? IXMLDOMDocument::create()
-                   : documents::itemDocument(platform::utf8::substring(Tag.get(), kPrefixLength),
-                                             documents::kNoUnit, type, value);
-    });
-}
-
-bool EditorBase::isWritable(const std::string& access)
-{
-    return values::containsNoCase(access, "write");
+    if (!isLocal) {
+        step([&] {
+            host().WriteLog(kLogUnit, mismatch + "Käytän Datafilen yksikköä " + datafileUnit);
+        });
+    }
+    return datafileUnit;
 }
 
 } // namespace quill

@@ -1,32 +1,17 @@
 #pragma once
 
-#include "framework/documents.h"
-#include "framework/editor_contract.h"
-#include "framework/steps.h"
+#include "editors/editor_core.h"
 #include "platform/label.h"
 
 #include <string>
 
 namespace quill {
 
-/// Colours that the editors paint with.
-namespace editorColors {
-constexpr platform::Color kRed   = 255;
-constexpr platform::Color kBlue  = 0xff0000;
-constexpr platform::Color kGrey  = 0xe0e0e0;
-constexpr platform::Color kWhite = 0xffffff;
-} // namespace editorColors
-
-/// What all data editors have in common: the two signs, the bond to a parameter of the datafile,
-/// and the two state machines whose states the host receives by `SetParameterState`.
+/// An editor with the two signs.
 ///
 /// `Modified` is the visibility of `lblModified` and `Correct` the absence of `lblError`; there is
-/// no other flag. States are reported under the `Tag` of the editor's container, which is how the
-/// host knows parameter from parameter.
-class EditorBase : public platform::Control,
-                   public IQornComponent,
-                   public ILocalizable,
-                   public BoundEditor {
+/// no other flag.
+class EditorBase : public EditorCore {
 public:
     platform::Label lblModified{*this, {.Name = "lblModified", .Caption = "*", .Visible = false}};
     platform::Label lblError{*this, {.Name = "lblError", .Caption = "!", .Visible = false}};
@@ -38,126 +23,39 @@ public:
     /// True hides the sign "!" and brings the colour back, False shows it and turns the text red.
     virtual void setCorrect(bool correct);
 
-    /// Whether there is an edit that the device does not have.
-    [[nodiscard]] bool Modified() const { return lblModified.Visible; }
-    /// False makes the present value the one that later edits are compared with.
-    virtual void setModified(bool modified);
-    /// Sets `Modified` and moves the change state.
-    void SetModifiedForward(bool modified);
-
-    [[nodiscard]] bool Enabled() const;
-    /// Disables or enables the box and paints it; does nothing while the editor is silent because
-    /// its parameter cannot be written.
-    virtual void setEnabled(bool enabled);
+    [[nodiscard]] bool Modified() const override { return lblModified.Visible; }
+    void               setModified(bool modified) override;
 
     /// Background of the control. Reading it gives 0.
     [[nodiscard]] platform::Color SignBackColor() const { return 0; }
     void                          setSignBackColor(platform::Color color) { BackColor = color; }
 
-    /// A silent editor books no changes.
-    [[nodiscard]] bool Silent() const { return mSilent; }
-    void               setSilent(bool silent) { mSilent = silent; }
-
-    [[nodiscard]] std::string ContextTag() const override { return mContextTag; }
-    void                      setContextTag(const std::string& tag) override { mContextTag = tag; }
-
-    /// Whether the editor is bound to a parameter of the datafile.
-    [[nodiscard]] bool IsInitialized() const { return static_cast<bool>(mDataNode); }
-
-    // IQornComponent
-    void SetMessenger(Messenger* messenger) override;
-    // ILocalizable: takes the label that messages and bookings carry.
-    void Localize(Translator& translator) override;
-
-    // What the host's developer wants to see while he looks for an error.
-    [[nodiscard]] const std::string& labelText() const { return mLabelText; }
-    [[nodiscard]] const std::string& valueType() const { return mValueType; }
-    [[nodiscard]] const std::string& changeState() const { return mChangeState; }
-    [[nodiscard]] const std::string& syncState() const { return mSyncState; }
-    [[nodiscard]] bool               hasSynced() const { return mHasSynced; }
-    [[nodiscard]] const IXMLDOMNode& dataNode() const { return mDataNode; }
-
 protected:
     explicit EditorBase(const platform::Design& design);
     EditorBase(platform::Widget& container, const platform::Design& design);
 
-    /// First word of the places in error reports.
-    [[nodiscard]] virtual const char* word() const = 0;
-    /// The widget that holds the value.
-    [[nodiscard]] virtual platform::Widget&       box()       = 0;
-    [[nodiscard]] virtual const platform::Widget& box() const = 0;
-    /// An editor whose box is disabled counts as disabled.
-    [[nodiscard]] bool isTabStop() const override { return Control::isTabStop() && Enabled(); }
-    /// Whether the user is kept from changing the value although the box is enabled.
-    [[nodiscard]] virtual bool isLocked() const { return false; }
     /// The present value becomes the one that edits are compared with.
     virtual void keepOriginal() = 0;
-    /// Called with every Messenger that is stored, also with none: the place to take or drop events
-    /// beyond the communication mode and the request for changes.
-    virtual void messengerChanged(Messenger*) {}
-    virtual void ViewGetChanges(std::int16_t scope) = 0;
+    void         paintText() override;
 
-    [[nodiscard]] Steps steps(const char* procedure) const
-    {
-        return {mMessenger, word(), Tag, procedure};
-    }
-    /// The services of the host; failure 91 while there is no Messenger.
-    [[nodiscard]] Messenger& host() const;
-    [[nodiscard]] Messenger* messenger() const { return mMessenger; }
-
-    /// The first data node stays; later ones are ignored.
-    void bindTo(const IXMLDOMNode& parameter);
-    /// Text of an attribute of a node, empty and reported if it is missing.
-    [[nodiscard]] static std::string read(const Steps& step, const IXMLDOMNode& node,
-                                          const char* attribute);
-    /// Reports a state under the container's `Tag`.
-    void reportState(const std::string& state) const;
-    /// Colour of the text by the two signs.
-    void paintText();
-
-    /// Moves the change state between "original" and "edited" and reports. The text editor knows
-    /// two states more.
-    virtual void forwardChanges();
-    /// Moves the synchronisation state after a value came, and reports.
-    void forwardSyncChanges();
-    /// A value came from the device or is in step with it.
-    void takeAsSynced();
-    /// The device did not answer.
-    void takeAsSyncError();
-    /// The device answered and refused: what stands there counts as in step.
-    void takeAsRefused();
-    /// Whether an error code is one by which the device refuses.
-    [[nodiscard]] static bool isRefusal(const std::string& code);
-    /// Whether `ViewGetChanges` with this scope is meant for this editor.
-    [[nodiscard]] bool isAskedFor(std::int16_t scope) const;
-    /// Writes `value` and the mark "not in step" into the datafile.
-    void writeValue(const Steps& step, const std::string& value);
-    /// The item that carries a value without a unit; an empty document while `Tag` or `type` is
-    /// empty.
-    [[nodiscard]] IXMLDOMDocument itemOf(const Steps& step, const std::string& type,
-                                         const std::string& value) const;
-    /// Makes the box read-only where `access` does not contain "write" in any letter case.
-    [[nodiscard]] static bool isWritable(const std::string& access);
+    /// Moves the change state of a value that can be wrong: beside "original" and "edited" there
+    /// are "editedError" and "corrected".
+    void forwardCheckedChanges();
+    /// What an error code says about such a value.
+    void handleCheckedError(const std::string& code);
+    /// The unit of an item's value. The item's own counts where it has one, else the one of the
+    /// datafile; that the two differ is logged, for a local value only where the item's own counts.
+    [[nodiscard]] std::string unitOfItem(const Steps& step, const IXMLDOMNode& item,
+                                         const std::string& datafileUnit, bool isLocal) const;
 
     /// Places the signs and what else stands right of the box; `unitWidth` is what lies between.
     void layout(std::int32_t unitWidth);
 
-    std::string                mContextTag;
-    std::string                mLabelText;
-    std::string                mValueType;
-    std::string                mChangeState = "original";
-    std::string                mSyncState   = "notRead";
-    IXMLDOMNode                mDataNode;
-    documents::ParameterWriter mWriter;
-    bool                       mHasSynced = false;
-    bool                       mSilent    = false;
+    /// Colours the value.
+    virtual void paintBoxes(platform::Color color);
 
 private:
     void start();
-
-    Messenger*             mMessenger = nullptr;
-    platform::Subscription mOnMode;
-    platform::Subscription mOnGetChanges;
 };
 
 } // namespace quill
