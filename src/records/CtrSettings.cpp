@@ -1,5 +1,6 @@
 #include "records/CtrSettings.h"
 
+#include "framework/caption_width.h"
 #include "framework/documents.h"
 #include "framework/modTools.h"
 #include "framework/named_callbacks.h"
@@ -8,6 +9,7 @@
 #include "platform/toolkit.h"
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace quill {
 
@@ -19,6 +21,35 @@ constexpr int kUnit     = 2;
 // Below this size the texts would be cut off in the longer languages.
 constexpr std::int32_t kSmallestWidth  = 9000;
 constexpr std::int32_t kSmallestHeight = 4800;
+
+constexpr std::int32_t kMargin        = 180;
+constexpr std::int32_t kGap           = 150; // between buttons
+constexpr std::int32_t kTwipsPerPixel = 15;
+constexpr std::int32_t kUnitWidth     = 180; // pixels, as the next
+constexpr std::int32_t kScrollBar     = 36;
+
+/// Buttons side by side, the last one first.
+using ButtonRow = std::initializer_list<platform::CommandButton*>;
+
+/// Makes the buttons as wide as their texts, at least `least`; answers what they take together.
+std::int32_t fitted(ButtonRow row, std::int32_t least)
+{
+    std::int32_t total = 0;
+    for (platform::CommandButton* button : row) {
+        button->Width = buttonWidth(button->Caption, least);
+        total += button->Width + kGap;
+    }
+    return total;
+}
+
+void lineUp(ButtonRow row, std::int32_t right, std::int32_t top)
+{
+    for (platform::CommandButton* button : row) {
+        button->Top  = top;
+        button->Left = right - button->Width;
+        right        = button->Left - kGap;
+    }
+}
 
 platform::Design withSize(platform::Design design)
 {
@@ -66,45 +97,38 @@ void CtrSettings::setUpGrids()
 {
     scgUnits.HeaderVisible = false;
     scgUnits.AddCol({.Key = "quantity", .Width = 360});
-    scgUnits.AddCol({.Key = "unit", .Width = 180});
+    scgUnits.AddCol({.Key = "unit", .Width = kUnitWidth});
     scgUnitsKey.AddCol({});
     scgUnitsKey.AddCol({});
 }
 
-/// The grid takes what a larger dialog gives; the buttons stay in the lower right corner.
+/// The grid takes what a larger dialog gives; the buttons stay in the lower right corner. Texts
+/// that need more room than the dialog has widen the form.
 void CtrSettings::arrange()
 {
-    constexpr std::int32_t kMargin = 180;
-    const std::int32_t     width   = std::max(Width.get(), kSmallestWidth);
-    const std::int32_t     height  = std::max(Height.get(), kSmallestHeight);
-    const std::int32_t     half    = (width - 3 * kMargin) / 2;
-    const std::int32_t     right   = width - kMargin;
+    const ButtonRow    systems{&cmdUS, &cmdSI};
+    const ButtonRow    leave{&cmdApply, &cmdCancel, &cmdOK};
+    const std::int32_t column = std::max(captionWidth(lblSelectLanguage.Caption),
+                                         captionWidth(lblStatusClassification.Caption));
+    const std::int32_t width =
+        std::max({Width.get(), kSmallestWidth, 2 * column + 3 * kMargin,
+                  captionWidth(lblChangeAll.Caption) + fitted(systems, 2025) + 2 * kMargin,
+                  fitted(leave, 2100) + 2 * kMargin});
+    const std::int32_t height = std::max(Height.get(), kSmallestHeight);
+    const std::int32_t half   = (width - 3 * kMargin) / 2;
 
     ctrTBLaunchedPanel.Width  = width;
     ctrTBLaunchedPanel.Height = height;
     lblTitle.Width = lblSelectUnits.Width = scgUnits.Width = width - 2 * kMargin;
     scgUnits.Height                                        = height - 3300;
-    lblChangeAll.Top                                       = height - 1365;
-    cmdSI.Top = cmdUS.Top = height - 1440;
-    for (platform::Widget* left : {static_cast<platform::Widget*>(&lblSelectLanguage),
-                                   static_cast<platform::Widget*>(&cboSelectLanguage),
-                                   static_cast<platform::Widget*>(&lblChangeAll)}) {
-        left->Width = half;
-    }
-    for (platform::Widget* other : {static_cast<platform::Widget*>(&lblStatusClassification),
-                                    static_cast<platform::Widget*>(&cboStatusClassification)}) {
-        other->Left  = half + 2 * kMargin;
-        other->Width = half;
-    }
-    cmdUS.Left = right - cmdUS.Width;
-    cmdSI.Left = cmdUS.Left - 150 - cmdSI.Width;
-
-    std::int32_t end = right;
-    for (platform::CommandButton* button : {&cmdApply, &cmdCancel, &cmdOK}) {
-        button->Top  = height - 660;
-        button->Left = end - button->Width;
-        end          = button->Left - 150;
-    }
+    scgUnits.setColumnWidth(kQuantity, scgUnits.Width / kTwipsPerPixel - kUnitWidth - kScrollBar);
+    lblSelectLanguage.Width = cboSelectLanguage.Width = half;
+    lblStatusClassification.Width = cboStatusClassification.Width = half;
+    lblStatusClassification.Left = cboStatusClassification.Left = half + 2 * kMargin;
+    lineUp(systems, width - kMargin, height - 1440);
+    lblChangeAll.Top   = height - 1365;
+    lblChangeAll.Width = cmdSI.Left - kMargin - kGap;
+    lineUp(leave, width - kMargin, height - 660);
 }
 
 Steps CtrSettings::steps(const char* procedure) const
@@ -117,9 +141,9 @@ Messenger& CtrSettings::host() const
     return existing(mMessenger);
 }
 
-UnitConverter& CtrSettings::units() const
+UnitConverter* CtrSettings::converter(const Steps& step) const
 {
-    return existing(host().GetUnitConverter());
+    return step.value<UnitConverter*>(nullptr, [&] { return host().GetUnitConverter(); });
 }
 
 std::string CtrSettings::keyOf(int row) const
@@ -168,6 +192,7 @@ void CtrSettings::Localize(Translator& translator)
     for (platform::Widget* widget : Widgets()) {
         localizeWidget(step, *widget, translator);
     }
+    arrange();
 }
 
 void CtrSettings::localizeWidget(const Steps& step, platform::Widget& widget,
@@ -210,12 +235,14 @@ void CtrSettings::localizeUnits(const Steps& step, Translator& translator)
 
 void CtrSettings::fillClassifications(const Steps& step, Translator& translator)
 {
+    // The host's number is the row: a text that is missing leaves its row empty.
+    const auto add = [&](const char* key, StatusClassification classification) {
+        const std::string text = step.text([&] { return translator.Translate(key); });
+        cboStatusClassification.AddItem(text, classification);
+    };
     cboStatusClassification.Clear();
-    step([&] {
-        cboStatusClassification.AddItem(translator.Translate("statusSeverity"), kClassSeverity);
-    });
-    step(
-        [&] { cboStatusClassification.AddItem(translator.Translate("statusNAMUR"), kClassNAMUR); });
+    add("statusSeverity", kClassSeverity);
+    add("statusNAMUR", kClassNAMUR);
     step([&] { cboStatusClassification.setListIndex(host().GetStatusClassification()); });
 }
 
@@ -240,15 +267,14 @@ void CtrSettings::UserControl_Show()
 
 void CtrSettings::SetUnitConverter()
 {
-    const Steps step = steps("SetUnitConverter ");
-    auto*       converter =
-        step.value<UnitConverter*>(nullptr, [&] { return host().GetUnitConverter(); });
-    if (converter == nullptr) {
+    const Steps          step  = steps("SetUnitConverter ");
+    UnitConverter* const units = converter(step);
+    if (units == nullptr) {
         return;
     }
     auto* const translator =
         step.value<Translator*>(nullptr, [&] { return host().GetTranslator(); });
-    auto quantities = step.value(IXMLDOMNodeList{}, [&] { return converter->GetQuantities(); });
+    auto quantities = step.value(IXMLDOMNodeList{}, [&] { return units->GetQuantities(); });
     quantities.reset();
     scgUnits.Redraw = false;
     for (platform::Grid* grid : {&scgUnits, &scgUnitsKey}) {
@@ -259,7 +285,7 @@ void CtrSettings::SetUnitConverter()
         step([&] { scgUnits.setCellText(row, kQuantity, existing(translator).Translate(key)); });
         scgUnits.setCellEditable(row, kQuantity, false);
         scgUnitsKey.setCellText(row, kQuantity, key);
-        showUnit(row, step.text([&] { return converter->GetDisplayUnit(key).value_or(""); }));
+        showUnit(row, step.text([&] { return units->GetDisplayUnit(key).value_or(""); }));
     }
     scgUnits.Redraw = true;
 }
@@ -275,12 +301,15 @@ void CtrSettings::scgUnits_CellSelectionChange(int row, int col)
     if (col != kUnit) {
         return;
     }
-    const Steps       step{mMessenger, "scgUnits_CellSelectionChange , " + std::to_string(col)};
-    const std::string key = keyOf(row);
-    const auto        choices =
-        step.value(std::optional<IXMLDOMNodeList>{}, [&] { return units().GetUnitChoices(key); });
-    miUnitRow = row;
-    scgUnits.ClearCombo(key);
+    const Steps          step{mMessenger, "scgUnits_CellSelectionChange , " + std::to_string(col)};
+    UnitConverter* const units   = converter(step);
+    const std::string    key     = keyOf(row);
+    const auto           choices = step.value(std::optional<IXMLDOMNodeList>{},
+                                              [&] { return existing(units).GetUnitChoices(key); });
+    miUnitRow                    = row;
+    if (choices || !scgUnits.hasCombo(key)) {
+        scgUnits.ClearCombo(key);
+    }
     std::int32_t place = 0;
     for (const IXMLDOMNode& choice : choices.value_or(IXMLDOMNodeList{})) {
         scgUnits.AddComboItem(key, {getText(choice, "./@name"), place++});
@@ -303,11 +332,12 @@ std::string CtrSettings::getText(const IXMLDOMNode& node, const char* xpath) con
 
 void CtrSettings::showBaseUnits(const std::string& system)
 {
-    const Steps step = steps("showBaseUnits ");
+    const Steps          step  = steps("showBaseUnits ");
+    UnitConverter* const units = converter(step);
     for (int row = 1; row <= scgUnits.RowCount(); ++row) {
         step([&] {
-            const auto data = units().GetUnitSystemData(keyOf(row));
-            const auto unit = data ? units().GetUnitOfSystem(*data, system) : std::nullopt;
+            const auto data = existing(units).GetUnitSystemData(keyOf(row));
+            const auto unit = data ? units->GetUnitOfSystem(*data, system) : std::nullopt;
             if (unit) {
                 showUnit(row, *unit);
             }
@@ -317,10 +347,11 @@ void CtrSettings::showBaseUnits(const std::string& system)
 
 void CtrSettings::showCurrentUnits()
 {
-    const Steps step = steps("showCurrentUnits ");
+    const Steps          step  = steps("showCurrentUnits ");
+    UnitConverter* const units = converter(step);
     for (int row = 1; row <= scgUnits.RowCount(); ++row) {
         step([&] {
-            if (const auto unit = units().GetDisplayUnit(keyOf(row))) {
+            if (const auto unit = existing(units).GetDisplayUnit(keyOf(row))) {
                 showUnit(row, *unit);
             }
         });
@@ -341,9 +372,12 @@ void CtrSettings::Translate()
 
 void CtrSettings::ConvertUnits()
 {
-    const Steps step = steps("ConvertUnits ");
+    const Steps          step  = steps("ConvertUnits ");
+    UnitConverter* const units = converter(step);
     for (int row = 1; row <= scgUnits.RowCount(); ++row) {
-        step([&] { (void)units().SetDisplayUnit(keyOf(row), scgUnits.cell(row, kUnit).Text); });
+        step([&] {
+            (void)existing(units).SetDisplayUnit(keyOf(row), scgUnits.cell(row, kUnit).Text);
+        });
     }
     step([&] { callPage(*this, "QuillInformUnitChanges"); });
 }

@@ -171,7 +171,7 @@ private:
 
     [[nodiscard]] Steps          steps(const char* procedure) const;
     [[nodiscard]] Messenger&     host() const;
-    [[nodiscard]] UnitConverter& units() const;
+    [[nodiscard]] UnitConverter* converter(const Steps& step) const;
     /// The quantity of a row.
     [[nodiscard]] std::string keyOf(int row) const;
     [[nodiscard]] std::string getText(const IXMLDOMNode& node, const char* xpath) const;

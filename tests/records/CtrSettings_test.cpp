@@ -175,6 +175,59 @@ TEST_F(CtrSettingsTest, ALabelWithoutATagKeepsItsTextWhereThereIsNoTranslation)
     EXPECT_EQ(view.lblSelectUnits.Caption.get(), "Select units");
 }
 
+TEST_F(CtrSettingsTest, AClassificationWithoutATextKeepsItsRow)
+{
+    translator.failingKey = "statusSeverity";
+    show();
+    EXPECT_THAT(view.cboStatusClassification.List(), ElementsAre("", "T-statusNAMUR"));
+    EXPECT_EQ(view.cboStatusClassification.ListIndex(), 0);
+    view.cmdOK.click();
+    EXPECT_THAT(messenger.callsTo("SetStatusClassification"),
+                ElementsAre("SetStatusClassification(0)"));
+}
+
+TEST_F(CtrSettingsTest, TheConverterIsAskedForOnceInEachProcedure)
+{
+    show();
+    const auto asked = [&] {
+        const auto count = messenger.callsTo("GetUnitConverter").size();
+        messenger.clear();
+        return count;
+    };
+    view.scgUnits.clickCell(1, 2);
+    EXPECT_EQ(asked(), 1U);
+    view.cmdSI.click();
+    EXPECT_EQ(asked(), 1U);
+    view.cmdOK.click();
+    EXPECT_EQ(asked(), 1U);
+    view.cmdCancel.click();
+    EXPECT_EQ(asked(), 0U); // the dialog is gone
+    view.show();
+    view.cmdCancel.click();
+    EXPECT_EQ(asked(), 1U);
+}
+
+TEST_F(CtrSettingsTest, AConverterThatIsGoneIsReportedForEveryRow)
+{
+    show();
+    messenger.converter = nullptr;
+    view.cmdOK.click();
+    EXPECT_THAT(messenger.errors(), ElementsAre(HasSubstr("CtrSettings ConvertUnits , 91"),
+                                                HasSubstr("CtrSettings ConvertUnits , 91")));
+    EXPECT_THAT(page.heard, ElementsAre("QuillInformUnitChanges"));
+}
+
+TEST_F(CtrSettingsTest, AListThatCannotBeReadAgainStaysAsItWas)
+{
+    show();
+    view.scgUnits.clickCell(1, 2);
+    view.scgUnits.clickCell(2, 2);
+    converter.failing = true;
+    view.scgUnits.clickCell(1, 2);
+    EXPECT_EQ(view.scgUnits.Combo("pressure").size(), 2U);
+    EXPECT_THAT(messenger.errors(), ElementsAre(HasSubstr("scgUnits_CellSelectionChange , 2, 5")));
+}
+
 TEST_F(CtrSettingsTest, AUnitCellOpensWithTheChoicesOfItsQuantity)
 {
     show();
@@ -333,6 +386,31 @@ TEST_F(CtrSettingsTest, ALargerDialogGivesTheGridMoreRoom)
     EXPECT_EQ(view.scgUnits.Width, 12000 - 360);
     EXPECT_EQ(view.cmdApply.Left + view.cmdApply.Width, 12000 - 180);
     EXPECT_LT(view.scgUnits.Top + view.scgUnits.Height, view.cmdSI.Top);
+    EXPECT_EQ(view.scgUnits.column(1).Width, 560);
+    EXPECT_EQ(view.scgUnits.column(2).Width, 180);
+}
+
+TEST_F(CtrSettingsTest, LongTextsFindRoom)
+{
+    for (const char* key : {"statusClassificationSelection", "changeAllUnits", "siUnits", "usUnits",
+                            "ok", "cancel", "apply"}) {
+        translator.texts[key] = std::string(60, 'x');
+    }
+    view.Localize(translator);
+    const auto endOf = [](const platform::Widget& widget) { return widget.Left + widget.Width; };
+    const std::int32_t text = toolkit.textWidth(std::string(60, 'x'));
+    EXPECT_GE(view.lblStatusClassification.Width, text);
+    EXPECT_GE(view.lblChangeAll.Width, text);
+    for (const platform::CommandButton* button :
+         {&view.cmdSI, &view.cmdUS, &view.cmdOK, &view.cmdCancel, &view.cmdApply}) {
+        EXPECT_GT(button->Width, text) << button->Name;
+        EXPECT_LE(endOf(*button), view.ctrTBLaunchedPanel.Width) << button->Name;
+    }
+    EXPECT_LE(endOf(view.lblChangeAll), view.cmdSI.Left);
+    EXPECT_LE(endOf(view.cmdSI), view.cmdUS.Left);
+    EXPECT_GE(view.cmdOK.Left, 0);
+    EXPECT_LE(endOf(view.cmdOK), view.cmdCancel.Left);
+    EXPECT_LE(endOf(view.lblSelectLanguage), view.lblStatusClassification.Left);
 }
 
 } // namespace

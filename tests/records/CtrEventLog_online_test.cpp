@@ -1,0 +1,621 @@
+// Pages of events from a HART device.
+#include "event_log_fixture.h"
+
+namespace quill::test {
+namespace {
+
+using testing::Contains;
+using testing::Each;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using testing::Not;
+using testing::SizeIs;
+using testing::StartsWith;
+using namespace platform;
+
+// --- Which message is which -------------------------------------------------------------------
+
+TEST_F(HartLogTest, AMessageOfSomethingElseIsOnlyWrittenDown)
+{
+    view.SetOnlineData(message(items({{0, "a", "b", "1"}}), true, "deviceStatus"));
+    EXPECT_THAT(host.calls, ElementsAre("WriteLog(69, CtrEventLog SetOnlineData entering)",
+                                        "WriteLog(69, CtrEventLog SetOnlineData leaving)"));
+    EXPECT_EQ(view.lsvEventLog.Count(), 0);
+}
+
+TEST_F(HartLogTest, ADocumentWithoutAResponseEndsTheProcedure)
+{
+    view.SetOnlineData(documents::openEmptyRequest());
+    ASSERT_THAT(host.calls, SizeIs(2)) << "the prefix is not known there";
+    host.clear();
+    view.SetOnlineData(documents::openText("<comm:dtm xmlns:comm=\"" +
+                                           std::string(documents::kCommunicationSchema) + "\"/>"));
+    EXPECT_THAT(host.calls, ElementsAre("WriteLog(69, CtrEventLog SetOnlineData entering)"));
+    host.clear();
+    view.SetOnlineData({});
+    EXPECT_THAT(host.errors(), ElementsAre(StartsWith("ReportError(CtrEventLog "
+                                                      "IQornDataUser_setOnlineData: , 91, ")));
+}
+
+TEST_F(HartLogTest, AMessageWithoutANameBelongsToNobody)
+{
+    view.SetOnlineData(response("isFinal=\"1\"", items({{0, "a", "b", "1"}})));
+    EXPECT_THAT(host.errors(), ElementsAre(StartsWith("ReportError(CtrEventLog "
+                                                      "IQornDataUser_setOnlineData: , 91, ")));
+    EXPECT_THAT(host.calls.back(), HasSubstr("leaving"));
+    EXPECT_EQ(view.lsvEventLog.Count(), 0);
+}
+
+// --- The total operation time -----------------------------------------------------------------
+
+TEST_F(HartLogTest, TheOperationTimeIsShownAndDatesTheList)
+{
+    receive({{0, "a", "b", "1000.5"}, {1, "c", "d", "976.5"}});
+    EXPECT_THAT(dates(), ElementsAre("", ""));
+    host.clear();
+    view.SetOnlineData(okResponse("eventLogOperationTime",
+                                  item("eventLogTotalOperationTime", "h", "floatVal", "1000.5")));
+    EXPECT_EQ(view.lblOperationTime[0].Caption.get(), "1000.50");
+    EXPECT_EQ(view.lblOperationTime[1].Caption.get(), "h");
+    EXPECT_EQ(view.lblOperationTime[2].Caption.get(), "2024-05-06 07:08:09");
+    EXPECT_THAT(dates(), ElementsAre("2024-05-06 07:08:09", "2024-05-05 07:08:09"));
+    EXPECT_EQ(logged("leaving").size(), 0U) << "the procedure ends there";
+    EXPECT_THAT(host.callsTo("WriteLog"),
+                Contains("WriteLog(68, AddStamps Operation Time 1000.5 at 2024-05-06 07:08:09)"));
+    EXPECT_EQ(view.lsvEventLog.Count(), 2);
+}
+
+TEST_F(HartLogTest, AnyItemThatNamesTheOperationTimeEndsTheMessage)
+{
+    view.SetOnlineData(
+        okResponse("eventLog", item("myeventLogTotalOperationTimeX", "min", "floatVal", "60") +
+                                   items({{0, "a", "b", "1"}})));
+    EXPECT_EQ(view.lblOperationTime[0].Caption.get(), "60.00");
+    EXPECT_EQ(view.lblOperationTime[1].Caption.get(), "min");
+    EXPECT_EQ(view.lsvEventLog.Count(), 0);
+}
+
+TEST_F(HartLogTest, AnEmptyOperationTimeShowsItsUnitOnly)
+{
+    for (const char* content : {"", "<comm:floatVal/>"}) {
+        host.clear();
+        view.SetOnlineData(okResponse("eventLogOperationTime",
+                                      "<comm:item name=\"eventLogTotalOperationTime\" unit=\"h\">" +
+                                          std::string(content) + "</comm:item>"));
+        EXPECT_EQ(view.lblOperationTime[1].Caption.get(), "h");
+        EXPECT_EQ(view.lblOperationTime[2].Caption.get(), "");
+        EXPECT_THAT(host.calls, ElementsAre("WriteLog(69, CtrEventLog SetOnlineData entering)"));
+    }
+}
+
+TEST_F(HartLogTest, AnOperationTimeWithoutAUnitOrThatIsNoNumberIsReported)
+{
+    view.SetOnlineData(okResponse("eventLogOperationTime",
+                                  "<comm:item name=\"eventLogTotalOperationTime\"><comm:floatVal>"
+                                  "12</comm:floatVal></comm:item>"));
+    EXPECT_THAT(host.errors(), ElementsAre(StartsWith("ReportError(CtrEventLog "
+                                                      "IQornDataUser_setOnlineData: , 91, ")));
+    EXPECT_EQ(view.lblOperationTime[0].Caption.get(), "12.00");
+    host.clear();
+    view.SetOnlineData(okResponse("eventLogOperationTime",
+                                  item("eventLogTotalOperationTime", "h", "floatVal", "soon")));
+    EXPECT_THAT(host.errors(), ElementsAre(StartsWith("ReportError(CtrEventLog "
+                                                      "IQornDataUser_setOnlineData: , 13, "),
+                                           StartsWith("ReportError(CtrEventLog AddStamps, 13, ")));
+    EXPECT_EQ(view.lblOperationTime[0].Caption.get(), "12.00");
+}
+
+TEST_F(HartLogTest, AClockThatFailsLeavesTheDateEmptyAndNothingIsDated)
+{
+    receive({{0, "a", "b", "1"}});
+    toolkit.beforeOperation = [](const char* operation) {
+        if (std::string(operation) == "now") {
+            throw failure(kInvalidCall);
+        }
+    };
+    view.SetOnlineData(okResponse("eventLogOperationTime",
+                                  item("eventLogTotalOperationTime", "h", "floatVal", "12")));
+    EXPECT_EQ(view.lblOperationTime[0].Caption.get(), "12.00");
+    EXPECT_EQ(view.lblOperationTime[2].Caption.get(), "");
+    EXPECT_THAT(dates(), ElementsAre(""));
+}
+
+// --- A new list, HART -------------------------------------------------------------------------
+
+TEST_F(HartLogTest, ANewListTranslatesTheEventsAndNumbersTheRows)
+{
+    receive({{0, "open", "info", "12.3456789"}, {1, "close", "warning", "1"}});
+    EXPECT_THAT(row(1), ElementsAre("t:info", "t:open", "12.3457", "", "0", "1"));
+    EXPECT_THAT(row(2), ElementsAre("t:warning", "t:close", "1.0000", "", "1", "2"));
+    EXPECT_EQ(view.lsvEventLog.Item(1).ToolTipText, "t:open 12.3457");
+    EXPECT_EQ(view.lsvEventLog.FirstVisible(), 1);
+    EXPECT_EQ(view.lsvEventLog.EnsuredVisible(), 1);
+}
+
+TEST_F(HartLogTest, TheLogTellsEveryStep)
+{
+    receive({{1, "open", "info", "1"}});
+    const auto lines = host.callsTo("WriteLog");
+    EXPECT_EQ(lines[0], "WriteLog(69, CtrEventLog SetOnlineData entering)");
+    EXPECT_THAT(lines[1], StartsWith("WriteLog(70, <comm:dtm"));
+    EXPECT_EQ(lines[2], "WriteLog(70, indexShift = 1)");
+    EXPECT_EQ(lines[3], "WriteLog(70, Onlinedata iIndex = 0)");
+    EXPECT_EQ(lines[4], "WriteLog(70, Onlinedata iIndex = 1)");
+    EXPECT_EQ(lines[5],
+              "WriteLog(70, Online Listing: indexShift 1 + index 1 + reset events0 = row 2)");
+    EXPECT_EQ(lines[6], "WriteLog(70, Onlinedata iIndex = 2)");
+    EXPECT_EQ(lines[34], "WriteLog(70, Onlinedata iIndex = 30)");
+    EXPECT_EQ(lines[35], "WriteLog(70, Online iLast = 1)");
+    EXPECT_EQ(lines[36], "WriteLog(69, CtrEventLog SetOnlineData leaving)");
+    EXPECT_THAT(lines, SizeIs(37));
+}
+
+TEST_F(HartLogTest, EventsOfANewListComeInSeveralMessages)
+{
+    receive({{0, "a", "c", "3"}, {9, "b", "c", "2"}}, false);
+    EXPECT_EQ(view.paging().miMessageCount, 1);
+    EXPECT_EQ(view.paging().mlngMessagesRead, 1);
+    EXPECT_FALSE(view.cmdNext.Enabled);
+    EXPECT_FALSE(host.wasCalled("SetParameterState"));
+    receive({{10, "d", "c", "1"}}, false);
+    EXPECT_EQ(view.paging().miMessageCount, 2);
+    receive({{30, "e", "c", "0.5"}}, true);
+    EXPECT_EQ(view.paging().miMessageCount, 0);
+    EXPECT_EQ(view.paging().mlngMessagesRead, 3);
+    EXPECT_THAT(events(), ElementsAre("t:a", "t:b", "t:d", "t:e")) << "no gaps";
+    EXPECT_THAT(indexes(), ElementsAre("0", "9", "10", "30"));
+    EXPECT_THAT(numbers(), ElementsAre("1", "2", "3", "4"));
+}
+
+TEST_F(HartLogTest, ARowIsMadeVisibleAsItComes)
+{
+    receive({{0, "a", "c", "3"}, {9, "b", "c", "2"}}, false);
+    EXPECT_EQ(view.lsvEventLog.EnsuredVisible(), 2);
+    receive({{10, "d", "c", "1"}}, true);
+    EXPECT_EQ(view.lsvEventLog.EnsuredVisible(), 1) << "a new list is shown from its top";
+    receiveMore({{0, "e", "c", "1"}});
+    EXPECT_EQ(view.lsvEventLog.EnsuredVisible(), 4);
+}
+
+TEST_F(HartLogTest, IndexesBehindTheLastAreLeftAlone)
+{
+    receive({{31, "a", "c", "3"}});
+    EXPECT_EQ(view.lsvEventLog.Count(), 0);
+}
+
+TEST_F(HartLogTest, TheEndOfAReadIsToldToTheHost)
+{
+    receive({{0, "a", "c", "3"}});
+    EXPECT_THAT(host.actions(),
+                ElementsAre("SetParameterState(eventLog, sync)",
+                            "SetParameterState(eventLog, original)",
+                            "ExecuteCommunicationRequest(" +
+                                view.paging().mstrOperationTimeRequest + ", reading, 2, 1)"));
+    EXPECT_TRUE(view.cmdNext.Enabled);
+    EXPECT_TRUE(view.paging().mblnIsNextAllowed);
+    EXPECT_EQ(view.paging().mvarIndexBase, 30);
+    EXPECT_EQ(view.ctrDateLabels.Caption(), "2024-05-06 07:08:09");
+    EXPECT_EQ(view.externalResetText(), "t:" + kResetEvent);
+}
+
+TEST_F(HartLogTest, ANewListStartsOver)
+{
+    receive({{0, "a", "c", "3"}, {1, kResetEvent, "c", "2"}});
+    receiveMore({{0, "b", "c", "1"}});
+    ASSERT_EQ(view.lsvEventLog.Count(), 4);
+    receive({{0, "new", "c", "4"}});
+    EXPECT_THAT(events(), ElementsAre("t:new"));
+    EXPECT_EQ(view.times().miFirstResetRow, 32767);
+    EXPECT_FALSE(view.lblFootnote.Visible);
+    EXPECT_EQ(view.paging().miReadsDone, 0);
+    EXPECT_EQ(view.paging().mlngMessagesRead, 1);
+    EXPECT_EQ(view.paging().mvarIndexBase, 30);
+    EXPECT_THAT(indexes(), ElementsAre("0"));
+}
+
+TEST_F(HartLogTest, WhatIsMissingStaysEmpty)
+{
+    receive({{0, "a", "", ""}, {1, "", "c", ""}, {2, "", "", "3"}});
+    EXPECT_THAT(row(1), ElementsAre("", "t:a", "", "", "0", "1"));
+    EXPECT_THAT(row(2), ElementsAre("t:c", "", "", "", "1", "2"));
+    EXPECT_THAT(row(3), ElementsAre("", "", "3.0000", "", "2", "3"));
+    EXPECT_EQ(view.lsvEventLog.Item(3).ToolTipText, " 3.0000");
+}
+
+TEST_F(HartLogTest, AnItemWithAnEmptyTextIsNoEvent)
+{
+    view.SetOnlineData(
+        message("<comm:item name=\"eventLogEvent00\"/><comm:item name=\"eventLogClass00\">"
+                "<comm:stringVal/></comm:item>"));
+    EXPECT_EQ(view.lsvEventLog.Count(), 0);
+    EXPECT_THAT(translator.calls, Not(Contains("Translate()")));
+}
+
+TEST_F(HartLogTest, TheFirstOfTwoItemsWithOneIndexCounts)
+{
+    view.SetOnlineData(
+        message(items({{0, "next", "c", "1"}}, true) + items({{0, "first", "c", "2"}}, false)));
+    EXPECT_THAT(events(), ElementsAre("t:next"));
+}
+
+TEST_F(HartLogTest, TheTopIndexDoesNotMatterForRowsOfAHartDevice)
+{
+    view.SetTopEventIndex(5);
+    receive({{5, "a", "c", "1"}, {7, "b", "c", "1"}});
+    EXPECT_THAT(numbers(), ElementsAre("1", "2"));
+    EXPECT_THAT(logged("Online Listing: "),
+                ElementsAre(HasSubstr("indexShift -4 + index 5 + reset events0 = row 1"),
+                            HasSubstr("indexShift -4 + index 7 + reset events0 = row 3")));
+}
+
+// --- Resets -----------------------------------------------------------------------------------
+
+TEST_F(HartLogTest, AResetDrawsASeparatorAndMarksWhatLiesBehind)
+{
+    receive({{0, "a", "c", "3"}, {1, kResetEvent, "w", "2"}, {2, "b", "c", "1"}});
+    EXPECT_THAT(events(), ElementsAre("t:a", "t:" + kResetEvent, kDashes, "t:b"));
+    EXPECT_THAT(row(3), ElementsAre("", kDashes, "", "", "", "3"));
+    EXPECT_THAT(indexes(), ElementsAre("0", "1", "", "2"));
+    EXPECT_EQ(view.times().miFirstResetRow, 2);
+    EXPECT_TRUE(view.lblFootnote.Visible);
+    EXPECT_EQ(view.paging().miResetEvents, 0) << "put back at the end";
+    EXPECT_THAT(logged("miResetEvents =+ 1"), ElementsAre("WriteLog(70, miResetEvents =+ 1)"));
+    EXPECT_THAT(logged("Break"), ElementsAre("WriteLog(70, Online Listing Break 3)"));
+    view.AddStamps("3", "2024-05-06 12:00:00");
+    EXPECT_THAT(dates(), ElementsAre("2024-05-06 12:00:00", "2024-05-06 11:00:00", "",
+                                     "2024-05-06 10:00:00 *"));
+}
+
+TEST_F(HartLogTest, AResetAtTheFirstPlace)
+{
+    receive({{0, kResetEvent, "w", "2"}, {1, "b", "c", "1"}});
+    EXPECT_THAT(events(), ElementsAre("t:" + kResetEvent, kDashes, "t:b"));
+    EXPECT_EQ(view.times().miFirstResetRow, 1);
+}
+
+TEST_F(HartLogTest, AResetAtTheLastPlace)
+{
+    receive({{0, "a", "c", "3"}, {30, kResetEvent, "w", "2"}});
+    EXPECT_THAT(events(), ElementsAre("t:a", "t:" + kResetEvent, kDashes));
+    EXPECT_EQ(view.times().miFirstResetRow, 31) << "index and shift, not the row on screen";
+    EXPECT_TRUE(view.lblFootnote.Visible);
+}
+
+TEST_F(HartLogTest, TwoResetsInOnePageKeepTheFirstRow)
+{
+    receive({{0, kResetEvent, "w", "3"}, {1, "a", "c", "2"}, {2, kResetEvent, "w", "1"}});
+    EXPECT_THAT(events(),
+                ElementsAre("t:" + kResetEvent, kDashes, "t:a", "t:" + kResetEvent, kDashes));
+    EXPECT_EQ(view.times().miFirstResetRow, 1);
+    EXPECT_THAT(logged("Break"), ElementsAre(HasSubstr("Break 2)"), HasSubstr("Break 5)")));
+}
+
+TEST_F(HartLogTest, ResetsOfEarlierMessagesMoveTheFirstResetRowOfLaterOnes)
+{
+    receive({{0, "a", "c", "3"}}, false);
+    receive({{1, kResetEvent, "w", "2"}}, false);
+    EXPECT_EQ(view.paging().miResetEvents, 1);
+    EXPECT_EQ(view.times().miFirstResetRow, 2);
+    receive({{2, "b", "c", "1"}}, true);
+    EXPECT_THAT(logged("+ index 2 "), ElementsAre(HasSubstr("+ reset events1 = row 4")));
+    EXPECT_TRUE(view.lblFootnote.Visible) << "hidden by the message, shown at the end";
+}
+
+TEST_F(HartLogTest, AResetWithoutATextIsNoReset)
+{
+    translator.texts[kResetEvent] = "";
+    receive({{0, kResetEvent, "w", "2"}});
+    EXPECT_EQ(view.lsvEventLog.Count(), 1);
+    EXPECT_EQ(view.times().miFirstResetRow, 32767);
+}
+
+// --- More events, HART ------------------------------------------------------------------------
+
+TEST_F(HartLogTest, APageOfMoreEventsIsPastedBehind)
+{
+    receive({{0, "a", "c", "3"}, {1, "b", "c", "2"}});
+    host.clear();
+    receiveMore({{0, "d", "c", "1"}, {3, "e", "c", "0.5"}});
+    EXPECT_THAT(events(), ElementsAre("t:a", "t:b", "t:d", "t:e"));
+    EXPECT_THAT(indexes(), ElementsAre("0", "1", "30", "33"));
+    EXPECT_EQ(view.paging().mvarIndexBase, 60);
+    EXPECT_FALSE(view.paging().mblnIsMoreEventsClicked);
+    EXPECT_THAT(logged("(71, "), ElementsAre("WriteLog(71, lsvEventLog(0).ListItems.Count 2)",
+                                             "WriteLog(71,  - miEventsInMessage 10)",
+                                             "WriteLog(71, * (miMessageCount -1) 0)",
+                                             "WriteLog(71,  - miResetEvents 0)"));
+    EXPECT_THAT(logged("indexShift = "), ElementsAre("WriteLog(70, indexShift = 2)"));
+    EXPECT_THAT(host.callsTo("ExecuteCommunicationRequest"), SizeIs(1))
+        << "the operation time is not asked for again";
+    EXPECT_THAT(host.callsTo("SetParameterState"),
+                ElementsAre("SetParameterState(eventLog, original)"));
+}
+
+TEST_F(HartLogTest, MessagesOfOneReadOfMoreEventsCountTogether)
+{
+    receive({{0, "a", "c", "9"}});
+    receiveMore({{0, "b", "c", "8"}}, false);
+    host.clear();
+    view.SetOnlineData(
+        message(items({{10, kResetEvent, "c", "7"}}, true), false, "eventLogContinued"));
+    EXPECT_THAT(logged("indexShift = "), ElementsAre("WriteLog(70, indexShift = -8)"));
+    EXPECT_EQ(view.times().miFirstResetRow, 2);
+    host.clear();
+    view.SetOnlineData(message(items({{20, "d", "c", "6"}}, true), true, "eventLogContinued"));
+    EXPECT_THAT(logged("(71, "), ElementsAre(HasSubstr("Count 4)"), HasSubstr("Message 10)"),
+                                             HasSubstr("-1) 2)"), HasSubstr("Events 1)")));
+    EXPECT_THAT(logged("indexShift = "), ElementsAre("WriteLog(70, indexShift = -17)"));
+    EXPECT_THAT(indexes(), ElementsAre("0", "30", "40", "", "50"));
+    EXPECT_EQ(view.paging().mlngMessagesRead, 4);
+}
+
+TEST_F(HartLogTest, AfterMoreThan32EventsTheNextPageGoesOnBehindThem)
+{
+    std::vector<LogEvent> page;
+    for (int index = 0; index <= 30; ++index) {
+        page.push_back({index, "e" + std::to_string(index), "c", "1"});
+    }
+    receive(page);
+    receiveMore(page);
+    receiveMore(page);
+    EXPECT_EQ(view.lsvEventLog.Count(), 93);
+    EXPECT_EQ(row(93), (Row{"t:c", "t:e30", "1.0000", "", "90", "93"}));
+    view.AddStamps("1", "2024-05-06 12:00:00");
+    EXPECT_THAT(dates(), Each("2024-05-06 12:00:00"));
+    EXPECT_THAT(host.errors(), IsEmpty());
+}
+
+TEST_F(HartLogTest, TheDateOfTheReadFollowsTheNameOfTheMessage)
+{
+    receive({{0, "a", "c", "3"}});
+    toolkit.clock = {2025, 1, 1, 0, 0, 0};
+    receiveMore({{0, "b", "c", "2"}});
+    EXPECT_EQ(view.ctrDateLabels.Caption(), "2024-05-06 07:08:09");
+    view.ctrDateLabels.Tag = "date_eventLogContinued";
+    receiveMore({{0, "b", "c", "2"}});
+    EXPECT_EQ(view.ctrDateLabels.Caption(), "2025-01-01 00:00:00");
+}
+
+// --- Obsolete events --------------------------------------------------------------------------
+
+TEST_F(HartLogTest, ObsoleteEventsGoWhenTheReadIsOver)
+{
+    receive({{0, "eventObsolete", "c", "9"}, {1, "a", "c", "8"}, {2, "eventObsolete", "c", "7"}},
+            false);
+    EXPECT_EQ(view.lsvEventLog.Count(), 3);
+    receive({{10, "b", "c", "6"}, {11, "eventObsolete", "c", "5"}}, true);
+    EXPECT_THAT(events(), ElementsAre("t:a", "t:b"));
+    EXPECT_THAT(numbers(), ElementsAre("1", "2"));
+    EXPECT_THAT(indexes(), ElementsAre("1", "10"));
+}
+
+TEST_F(HartLogTest, ALogOfObsoleteEventsOnlyEndsEmpty)
+{
+    receive({{0, "eventObsolete", "c", "9"}, {1, "eventObsolete", "c", "8"}});
+    EXPECT_EQ(view.lsvEventLog.Count(), 0);
+    EXPECT_THAT(host.errors(), IsEmpty());
+}
+
+TEST_F(HartLogTest, RowsThatSomebodyChangedAreLookedAtAgain)
+{
+    receive({{0, "a", "c", "9"}, {1, "b", "c", "8"}, {2, "d", "c", "7"}});
+    view.lsvEventLog.edit(
+        1, [](ListItem& shown) { shown.SubItems[eventLog::kEvent] = "t:eventObsolete"; });
+    view.lsvEventLog.edit(3, [](ListItem& shown) { shown.SubItems[eventLog::kRow] = "x"; });
+    receiveMore({{0, "e", "c", "6"}});
+    EXPECT_THAT(events(), ElementsAre("t:b", "t:d", "t:e"));
+    EXPECT_THAT(numbers(), ElementsAre("1", "2", "3"));
+    view.lsvEventLog.Remove(1);
+    receiveMore({{0, "f", "c", "5"}});
+    EXPECT_THAT(numbers(), ElementsAre("1", "2", "3"));
+    auto rows                          = view.lsvEventLog.ListItems();
+    rows[0].SubItems[eventLog::kEvent] = "t:eventObsolete";
+    view.lsvEventLog.setItems(rows);
+    receiveMore({{0, "g", "c", "4"}});
+    EXPECT_THAT(events(), ElementsAre("t:e", "t:f", "t:g"));
+    EXPECT_THAT(numbers(), ElementsAre("1", "2", "3"));
+}
+
+TEST_F(HartLogTest, AnotherLanguageIsLookedForInAllRows)
+{
+    receive({{0, "a", "c", "9"}, {1, "b", "c", "8"}});
+    translator.texts["eventObsolete"] = "t:a";
+    receiveMore({{0, "d", "c", "7"}});
+    EXPECT_THAT(events(), ElementsAre("t:b", "t:d"));
+}
+
+TEST_F(HartLogTest, AReadChangesNoRowOfEarlierReads)
+{
+    receive({{0, "a", "c", "9"}, {1, kResetEvent, "c", "8"}});
+    int        first = 100;
+    const auto watch = view.lsvEventLog.Changed.subscribe([&](const WidgetChange& change) {
+        if (change.what != WidgetChange::What::property) {
+            first = std::min(first, change.first);
+        }
+    });
+    receiveMore({{0, "d", "c", "7"}, {1, "eventObsolete", "c", "6"}});
+    EXPECT_EQ(first, 3);
+}
+
+// --- A part that failed -----------------------------------------------------------------------
+
+TEST_F(HartLogTest, BehindAFailedPartMessagesAreCountedButNotListed)
+{
+    receive({{0, "a", "c", "9"}}, false);
+    fail(false);
+    host.clear();
+    receive({{10, "b", "c", "8"}}, false);
+    EXPECT_EQ(view.paging().miMessageCount, 2);
+    EXPECT_EQ(view.paging().mlngMessagesRead, 2);
+    EXPECT_THAT(events(), ElementsAre("t:a"));
+    EXPECT_THAT(host.actions(), IsEmpty());
+    EXPECT_THAT(logged("indexShift"), IsEmpty());
+    receive({{20, "d", "c", "7"}}, true);
+    EXPECT_THAT(events(), ElementsAre("t:a"));
+    EXPECT_THAT(host.actions(), ElementsAre("SetParameterState(eventLog, original)"));
+    EXPECT_EQ(view.syncState(), "syncError");
+    EXPECT_FALSE(view.cmdNext.Enabled);
+    EXPECT_FALSE(view.paging().mblnIsNextAllowed);
+    EXPECT_EQ(view.paging().mvarIndexBase, 0);
+    EXPECT_EQ(view.ctrDateLabels.Caption(), "");
+    EXPECT_TRUE(view.paging().mblnReadOk);
+    EXPECT_EQ(view.paging().miMessageCount, 0);
+    host.clear();
+    receive({{0, "a", "c", "9"}}, true);
+    EXPECT_THAT(host.callsTo("SetParameterState"),
+                ElementsAre("SetParameterState(eventLog, reSync)",
+                            "SetParameterState(eventLog, original)"));
+}
+
+TEST_F(HartLogTest, AfterAFailedReadThereIsStillTheOldEndToTest)
+{
+    receive({{0, "vx4400eventNone", "vx4400eventClassNone", "1"}}, false);
+    view.cmdNext.Enabled = true;
+    fail(false);
+    receive({{10, "a", "c", "9"}}, true);
+    EXPECT_FALSE(view.cmdNext.Enabled);
+    EXPECT_THAT(logged("leaving"), SizeIs(2));
+}
+
+// --- The datafile -----------------------------------------------------------------------------
+
+TEST_F(HartLogTest, ANewListGoesIntoTheDatafile)
+{
+    const auto datafile = log("XH", parameters({{0, "old", "old", "1"}, {1, "old", "", ""}}));
+    view.SetOfflineData(datafile);
+    receive({{0, "a", "c", "12.5"}, {1, "b", "", ""}, {2, "d", "c", "1"}});
+    EXPECT_EQ(value(datafile, "eventLogEvent00"), "a");
+    EXPECT_EQ(value(datafile, "eventLogClass00"), "c");
+    EXPECT_EQ(value(datafile, "eventLogTime00"), "12.5");
+    EXPECT_EQ(value(datafile, "eventLogEvent01"), "b");
+    EXPECT_EQ(value(datafile, "eventLogClass01"), "") << "no item, no change";
+    receiveMore({{0, "more", "c", "0.5"}});
+    EXPECT_EQ(value(datafile, "eventLogEvent00"), "a") << "further pages are not kept";
+}
+
+TEST_F(HartLogTest, AnEmptyItemEmptiesTheDatafilesValue)
+{
+    const auto datafile = log("XH", parameters({{0, "old", "old", "1"}}));
+    view.SetOfflineData(datafile);
+    view.SetOnlineData(message("<comm:item name=\"eventLogEvent00\"/>"));
+    EXPECT_EQ(value(datafile, "eventLogEvent00"), "");
+    EXPECT_EQ(value(datafile, "eventLogClass00"), "old");
+}
+
+// --- Hosts and documents that fail ------------------------------------------------------------
+
+TEST_F(HartLogTest, ATimeThatIsNoNumberCostsTimeAndIndexOfItsRow)
+{
+    receive({{0, "a", "c", "soon"}, {1, "b", "c", "1"}});
+    EXPECT_THAT(row(1), ElementsAre("t:c", "t:a", "", "", "", "1"));
+    EXPECT_THAT(row(2), ElementsAre("t:c", "t:b", "1.0000", "", "1", "2"));
+    EXPECT_THAT(host.errors(),
+                ElementsAre(StartsWith("ReportError(CtrEventLog AddEventLogEvent, 13, ")));
+}
+
+TEST_F(HartLogTest, AMessageThatDoesNotSayWhetherItIsTheLastIsNot)
+{
+    view.SetOnlineData(response("name=\"eventLog\"", items({{0, "a", "c", "1"}})));
+    EXPECT_EQ(view.lsvEventLog.Count(), 1);
+    EXPECT_EQ(view.paging().miMessageCount, 1);
+    EXPECT_THAT(host.errors(), ElementsAre(StartsWith("ReportError(CtrEventLog "
+                                                      "IQornDataUser_setOnlineData: , 91, ")));
+    EXPECT_THAT(host.calls.back(), HasSubstr("leaving"));
+}
+
+TEST_F(HartLogTest, AMessengerThatFailsCostsItsLinesOnly)
+{
+    for (const char* operation :
+         {"WriteLog", "SetParameterState", "ReportError", "ExecuteCommunicationRequest"}) {
+        host.failOn(operation);
+    }
+    receive({{0, "a", "c", "1"}, {1, kResetEvent, "c", "0.5"}});
+    EXPECT_THAT(events(), ElementsAre("t:a", "t:" + kResetEvent, kDashes));
+    EXPECT_TRUE(view.cmdNext.Enabled);
+    EXPECT_EQ(view.syncState(), "sync");
+    EXPECT_TRUE(host.wasCalled("ExecuteCommunicationRequest"));
+}
+
+TEST_F(HartLogTest, AHostWithoutATranslatorShowsTimesOnly)
+{
+    host.translator = nullptr;
+    receive({{0, "a", "c", "1"}, {1, "b", "c", ""}});
+    ASSERT_EQ(view.lsvEventLog.Count(), 1);
+    EXPECT_THAT(row(1), ElementsAre("", "", "1.0000", "", "0", ""));
+    EXPECT_THAT(host.errors(), Each(StartsWith("ReportError(CtrEventLog "
+                                               "IQornDataUser_setOnlineData: , 91, ")));
+}
+
+TEST_F(HartLogTest, ATextThatFailsCostsItsColumn)
+{
+    translator.failingKey = "a";
+    receive({{0, "a", "c", "1"}});
+    EXPECT_THAT(row(1), ElementsAre("t:c", "", "1.0000", "", "0", "1"));
+    EXPECT_THAT(host.errors(), SizeIs(1));
+}
+
+TEST_F(HartLogTest, AnEventWithoutATextShowsItsKey)
+{
+    translator.prefix = "Err:";
+    translator.texts  = {{"a", "Started"}};
+    receive({{0, "a", "c", "4"}, {1, "b", "d", "3"}, {2, kResetEvent, "c", "2"}});
+    EXPECT_THAT(row(1), ElementsAre("c", "Started", "4.0000", "", "0", "1"));
+    EXPECT_THAT(row(2), ElementsAre("d", "b", "3.0000", "", "1", "2"));
+    EXPECT_THAT(events(), ElementsAre("Started", "b", kResetEvent, kDashes));
+    EXPECT_EQ(view.externalResetText(), kResetEvent);
+    EXPECT_EQ(view.lsvEventLog.Item(2).ToolTipText, "b 3.0000");
+    EXPECT_THAT(host.errors(), IsEmpty());
+}
+
+TEST_F(HartLogTest, WithoutTextsObsoleteEventsGoAndTheEndIsFound)
+{
+    translator.prefix = "Err:";
+    receive({{0, "a", "c", "4"},
+             {1, "eventObsolete", "c", "3"},
+             {2, "vx4400eventNone", "vx4400eventClassNone", "2"}});
+    EXPECT_THAT(events(), ElementsAre("a", "vx4400eventNone"));
+    EXPECT_FALSE(view.cmdNext.Enabled);
+    EXPECT_FALSE(view.paging().mblnIsNextAllowed);
+}
+
+TEST_F(HartLogTest, AnUnknownTextForObsoleteEventsKeepsThemAndIsReported)
+{
+    translator.failingKey = "eventObsolete";
+    receive({{0, "a", "", "1"}});
+    EXPECT_EQ(view.lsvEventLog.Count(), 1);
+    EXPECT_TRUE(view.cmdNext.Enabled);
+    EXPECT_THAT(host.errors(), ElementsAre(StartsWith("ReportError(CtrEventLog "
+                                                      "IQornDataUser_setOnlineData: , 5, ")));
+}
+
+TEST_F(HartLogTest, MoreMessagesThanTheCounterHoldsAreReported)
+{
+    receive({{0, "a", "c", "1"}}, false);
+    for (int count = 0; count < 254; ++count) {
+        receive({}, false);
+    }
+    EXPECT_EQ(view.paging().miMessageCount, 255);
+    EXPECT_THAT(host.errors(), IsEmpty());
+    receive({{1, "b", "c", "1"}}, true);
+    EXPECT_THAT(host.errors(), ElementsAre(StartsWith("ReportError(CtrEventLog "
+                                                      "IQornDataUser_setOnlineData: , 6, ")));
+    EXPECT_EQ(view.lsvEventLog.Count(), 2);
+    EXPECT_EQ(view.paging().mlngMessagesRead, 256);
+}
+
+TEST_F(HartLogTest, WithACommaTimesAreReadAndShownInTheLocalesForm)
+{
+    toolkit.localeSettings = {",", "d.M.yyyy", "H:mm:ss"};
+    receive({{0, "a", "c", "12.5"}});
+    EXPECT_THAT(times(), ElementsAre("12,5000"));
+    view.SetOnlineData(okResponse("eventLogOperationTime",
+                                  item("eventLogTotalOperationTime", "h", "floatVal", "1234.5")));
+    EXPECT_EQ(view.lblOperationTime[0].Caption.get(), "1234,50");
+    EXPECT_EQ(view.lblOperationTime[2].Caption.get(), "6.5.2024 7:08:09");
+    EXPECT_THAT(dates(), ElementsAre("16.3.2024 9:08:09"));
+    EXPECT_THAT(host.errors(), IsEmpty());
+}
+
+} // namespace
+} // namespace quill::test
