@@ -1,6 +1,7 @@
 #pragma once
 
 #include "probe/convert.h"
+#include "probe/free_standing.h"
 #include "probe/registry.h"
 
 #include <array>
@@ -191,11 +192,16 @@ public:
         };
     }
 
-    /// Lines may create objects of this class.
+    /// Lines may create objects of this class, which need not be widgets.
     Class& creatable()
     {
-        mEntry.create = [](platform::Widget& container, const platform::Design& design) {
-            return std::make_unique<T>(container, design);
+        mEntry.create = [type = mEntry.name](platform::Widget&       container,
+                                             const platform::Design& design) {
+            if constexpr (std::is_base_of_v<platform::Widget, T>) {
+                return std::make_unique<T>(container, design);
+            } else {
+                return std::make_unique<FreeStanding<T>>(container, design, type);
+            }
         };
         return *this;
     }

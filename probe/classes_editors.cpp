@@ -1,23 +1,28 @@
+#include "editors/CtrCheckEdit.h"
 #include "editors/CtrComboEdit.h"
 #include "editors/CtrDateEdit.h"
 #include "editors/CtrDateLabel.h"
 #include "editors/CtrFocusTransfer.h"
+#include "editors/CtrOptionEdit.h"
 #include "editors/CtrTBLaunchedPanel.h"
 #include "editors/CtrTextEdit.h"
+#include "editors/CtrTimeEdit.h"
 #include "probe/binding.h"
 
 namespace quill::probe {
 
 namespace {
 
-void registerEditorBase(std::vector<ClassEntry>& classes)
+void registerEditorBases(std::vector<ClassEntry>& classes)
 {
-    using E = EditorBase;
-    Class<E>{"EditorBase"}
-        .property("Correct", &E::Correct, &E::setCorrect)
+    Class<EditorBase>{"EditorBase"}
+        .property("Correct", &EditorBase::Correct, &EditorBase::setCorrect)
+        .property("SignBackColor", &EditorBase::SignBackColor, &EditorBase::setSignBackColor)
+        .into(classes);
+    using E = EditorCore;
+    Class<E>{"EditorCore"}
         .property("Enabled", &E::Enabled, &E::setEnabled)
         .property("Modified", &E::Modified, &E::setModified)
-        .property("SignBackColor", &E::SignBackColor, &E::setSignBackColor)
         .property("Silent", &E::Silent, &E::setSilent)
         .method("SetModifiedForward", &E::SetModifiedForward)
         .method("IsInitialized", &E::IsInitialized)
@@ -98,6 +103,56 @@ void registerComboEdit(std::vector<ClassEntry>& classes)
         .into(classes);
 }
 
+void registerOptionEdit(std::vector<ClassEntry>& classes)
+{
+    using C = CtrOptionEdit;
+    Class<C>{"CtrOptionEdit"}
+        .creatable()
+        .property("Locked", &C::Locked, &C::setLocked)
+        .property("Selected", &C::Selected, &C::setSelected)
+        .property("Text", &C::Text, &C::setText)
+        .method("addOption", &C::addOption)
+        .method("mapText", &C::mapText)
+        .state("mappings", &C::mappings)
+        .state("selectedValue", &C::selectedValue)
+        .state("originalText", &C::originalText)
+        .event("Change", &C::Change)
+        .into(classes);
+}
+
+void registerCheckEdit(std::vector<ClassEntry>& classes)
+{
+    using C = CtrCheckEdit;
+    Class<C>{"CtrCheckEdit"}
+        .creatable()
+        .method("ShowChecks", &C::ShowChecks)
+        .method("StoreBitForExport", &C::StoreBitForExport)
+        .state("originalValue", &C::originalValue)
+        .into(classes);
+}
+
+void registerTimeEdit(std::vector<ClassEntry>& classes)
+{
+    using C = CtrTimeEdit;
+    Class<C>{"CtrTimeEdit"}
+        .creatable()
+        .property("Locked", &C::Locked, &C::setLocked)
+        .property("Text", &C::Text, &C::setText)
+        .method("EditText", &C::EditText)
+        .method("dblAComparedToB", &C::dblAComparedToB)
+        .method("FormatForCommunication", &C::FormatForCommunication)
+        .state("originalText", &C::originalText)
+        .state("decimalCount", &C::decimalCount)
+        .state("limitMax", &C::limitMax)
+        .state("limitMin", &C::limitMin)
+        .state("messageUnit", &C::messageUnit)
+        .state("numberFormat", &C::numberFormat)
+        .state("allowEmpty", &C::allowEmpty)
+        .state("accessText", &C::accessText)
+        .event("Change", &C::Change)
+        .into(classes);
+}
+
 void registerDateEdit(std::vector<ClassEntry>& classes)
 {
     using C = CtrDateEdit;
@@ -131,10 +186,13 @@ void registerEditors(std::vector<ClassEntry>& classes)
 {
     registerTextEdit(classes);
     registerComboEdit(classes);
+    registerOptionEdit(classes);
+    registerCheckEdit(classes);
+    registerTimeEdit(classes);
     registerDateEdit(classes);
     registerVisuals(classes);
     // What all editors share; a class that tells a member itself comes first.
-    registerEditorBase(classes);
+    registerEditorBases(classes);
 }
 
 } // namespace quill::probe

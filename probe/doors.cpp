@@ -1,5 +1,6 @@
 #include "probe/doors.h"
 
+#include "platform/grid.h"
 #include "platform/widgets.h"
 
 #include <map>
@@ -65,7 +66,44 @@ UserDoor select(Widget& widget, const Json& line)
     for (const Json& row : asArray(field(line, "rows"))) {
         rows.push_back(asInt32(row));
     }
+    if (auto* grid = dynamic_cast<Grid*>(&widget)) {
+        return grid->select(rows);
+    }
     return as<ListView>(widget).select(rows);
+}
+
+/// What is typed, and whether it stays so or becomes what the cell holds.
+UserDoor edit(Widget& widget, const Json& line)
+{
+    Grid&       grid     = as<Grid>(widget);
+    const int   row      = int32Field(line, "row");
+    const int   col      = int32Field(line, "col");
+    const bool  isCommit = boolOr(line, "commit", true);
+    const Json* value    = find(line, "value");
+    if (value == nullptr) {
+        const std::string text = textField(line, "text");
+        return isCommit ? grid.edit(row, col, text) : grid.typeCell(row, col, text);
+    }
+    if (find(line, "text") != nullptr) {
+        throw invalid("\"text\" or \"value\", not both");
+    }
+    const std::int32_t number = asInt32(*value);
+    return isCommit ? grid.edit(row, col, number) : grid.typeCell(row, col, std::to_string(number));
+}
+
+template <UserDoor (Grid::*action)(int, int)>
+UserDoor onCell(Widget& widget, const Json& line)
+{
+    const int row = int32Field(line, "row");
+    const int col = int32Field(line, "col");
+    return (as<Grid>(widget).*action)(row, col);
+}
+
+UserDoor expand(Widget& widget, const Json& line)
+{
+    const int  row      = int32Field(line, "row");
+    const bool expanded = boolOr(line, "expanded", true);
+    return as<Grid>(widget).expand(row, expanded);
 }
 
 UserDoor press(Widget& widget, const Json& line)
@@ -114,9 +152,23 @@ UserDoor hide(Widget& widget, const Json&)
 UserDoor act(Widget& widget, const std::string& action, const Json& line)
 {
     static const std::map<std::string, Action> actions{
-        {"type", type},     {"click", click},   {"choose", choose}, {"check", check},
-        {"select", select}, {"press", press},   {"focus", focus},   {"blur", blur},
-        {"pick", pick},     {"resize", resize}, {"show", show},     {"hide", hide},
+        {"type", type},
+        {"click", click},
+        {"choose", choose},
+        {"check", check},
+        {"select", select},
+        {"press", press},
+        {"focus", focus},
+        {"blur", blur},
+        {"pick", pick},
+        {"resize", resize},
+        {"show", show},
+        {"hide", hide},
+        {"edit", edit},
+        {"expand", expand},
+        {"clickCell", onCell<&Grid::clickCell>},
+        {"rightClickCell", onCell<&Grid::rightClickCell>},
+        {"hoverCell", onCell<&Grid::hoverCell>},
     };
     const auto found = actions.find(action);
     if (found == actions.end()) {

@@ -27,6 +27,12 @@ void Host::take(const Json& line)
     mToolkit.fileDialogAnswer = mSettings.fileDialog;
 }
 
+void Host::calledBack(const std::string& method, const std::vector<std::string>& args) const
+{
+    mOutput.call("callback", method, Reply(args));
+    mSettings.failIfPrepared(method);
+}
+
 template <class... Args>
 void Host::called(const char* operation, const Args&... args) const
 {
@@ -42,7 +48,7 @@ bool Host::isAccepted(const char* operation) const
 AddressService* Host::GetAddressService()
 {
     called("GetAddressService");
-    return nullptr;
+    return mSettings.addressService ? &mAddressService : nullptr;
 }
 
 UnitConverter* Host::GetUnitConverter()

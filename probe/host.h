@@ -9,6 +9,8 @@
 #include "probe/temporary_folder.h"
 
 #include <functional>
+#include <string>
+#include <vector>
 
 namespace quill::probe {
 
@@ -23,6 +25,9 @@ public:
 
     /// A `host` line. A line with a wrong key changes nothing.
     void take(const Json& line);
+
+    /// A control has called its page by the name of a method: reported, then failed if prepared.
+    void calledBack(const std::string& method, const std::vector<std::string>& args) const;
 
     [[nodiscard]] HostTranslator&            translator() { return mTranslator; }
     [[nodiscard]] platform::HeadlessToolkit& toolkit() { return mToolkit; }
@@ -87,6 +92,7 @@ private:
     HostSettings              mSettings;
     HostTranslator            mTranslator{mSettings};
     HostConverter             mConverter{mSettings, mOutput};
+    HostAddressService        mAddressService{mSettings, mOutput};
     platform::HeadlessToolkit mToolkit;
     ChangeLabels              mLabels;
     TemporaryFolder           mInstallFolder;

@@ -183,4 +183,33 @@ IXMLDOMNodeList HostConverter::GetQuantities()
     return root.get_childNodes();
 }
 
+AddressSettings& HostAddressService::called(const char* operation, Reply args) const
+{
+    mOutput.call("addressService", operation, std::move(args));
+    mSettings.failIfPrepared(operation);
+    if (!mSettings.addressService) {
+        throw platform::failure(platform::kObjectNotSet);
+    }
+    return *mSettings.addressService;
+}
+
+std::optional<std::int16_t> HostAddressService::ReadAddress()
+{
+    const AddressSettings& service = called("ReadAddress", Reply::array());
+    return service.readOk && mSettings.isAccepted("ReadAddress") ? std::optional{service.address}
+                                                                 : std::nullopt;
+}
+
+bool HostAddressService::WriteAddress(std::uint8_t first, std::uint8_t second, std::int32_t third,
+                                      std::uint8_t address)
+{
+    AddressSettings& service =
+        called("WriteAddress", Reply::array({first, second, third, address}));
+    if (!service.writeOk || !mSettings.isAccepted("WriteAddress")) {
+        return false;
+    }
+    service.address = address;
+    return true;
+}
+
 } // namespace quill::probe

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "framework/address_service.h"
 #include "framework/host_contract.h"
 #include "probe/host_settings.h"
 #include "probe/output.h"
@@ -48,6 +49,28 @@ public:
 private:
     /// Failure 91 while the host has no converter: a control kept it for too long.
     [[nodiscard]] ConverterSettings& units() const;
+
+    HostSettings& mSettings;
+    const Output& mOutput;
+};
+
+/// The bus address out of the settings. Every operation is reported.
+class HostAddressService : public AddressService {
+public:
+    HostAddressService(HostSettings& settings, const Output& output)
+        : mSettings(settings), mOutput(output)
+    {
+    }
+
+    std::optional<std::int16_t> ReadAddress() override;
+    /// Changes what `ReadAddress` answers.
+    bool WriteAddress(std::uint8_t first, std::uint8_t second, std::int32_t third,
+                      std::uint8_t address) override;
+
+private:
+    /// Reports an operation and throws what was prepared for it; failure 91 while the host has no
+    /// such service: a control kept it for too long.
+    AddressSettings& called(const char* operation, Reply args) const;
 
     HostSettings& mSettings;
     const Output& mOutput;

@@ -81,6 +81,26 @@ std::optional<ConverterSettings> asConverter(const Json& value)
     return result;
 }
 
+std::optional<AddressSettings> asAddressService(const Json& value)
+{
+    if (value.is_null()) {
+        return std::nullopt;
+    }
+    AddressSettings result;
+    for (const auto& [key, part] : asObject(value).items()) {
+        if (key == "address") {
+            result.address = asInt16(part);
+        } else if (key == "readOk") {
+            result.readOk = asBool(part);
+        } else if (key == "writeOk") {
+            result.writeOk = asBool(part);
+        } else {
+            throw invalid("an address service has no \"" + key + "\"");
+        }
+    }
+    return result;
+}
+
 platform::DateTime asClock(const Json& value)
 {
     const auto clock = platform::fromIso(asText(value));
@@ -170,6 +190,7 @@ const std::map<std::string, Setter>& setters()
         {"untranslated", into(&S::echoesUntranslated, asEcho)},
         {"language", into(&S::language, asText)},
         {"converter", into(&S::converter, asConverter)},
+        {"addressService", into(&S::addressService, asAddressService)},
         {"clock", into(&S::clock, asClock)},
         {"locale", into(&S::locale, asLocale)},
         {"textWidth", into(&S::textWidth,
@@ -191,7 +212,7 @@ void HostSettings::take(const Json& line)
         if (key == "op") {
             continue;
         }
-        if (key == "addressService" || key == "store" || key == "printer") {
+        if (key == "store" || key == "printer") {
             takeNothing(key, value);
             continue;
         }

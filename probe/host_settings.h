@@ -33,6 +33,13 @@ struct ConverterSettings {
     std::map<std::string, TextByKey> systems;
 };
 
+/// What the address service answers.
+struct AddressSettings {
+    std::int16_t address = 0;
+    bool         readOk  = true;
+    bool         writeOk = true;
+};
+
 /// What the host answers, as the `host` lines have set it.
 struct HostSettings {
     std::int32_t communicationMode         = 10;
@@ -60,6 +67,7 @@ struct HostSettings {
     std::string language           = "English";
 
     std::optional<ConverterSettings> converter;
+    std::optional<AddressSettings>   addressService;
 
     platform::DateTime         clock{2024, 5, 6, 7, 8, 9};
     platform::Locale           locale;

@@ -7,7 +7,10 @@ namespace quill::probe {
 Registry::Registry()
 {
     registerEditors(mClasses);
+    registerStatus(mClasses);
     registerRecords(mClasses);
+    registerActions(mClasses);
+    registerGrid(mClasses);
     registerWidgets(mClasses);
     registerInterfaces(mClasses);
     registerModules(mModules);

@@ -62,6 +62,7 @@ class Registry {
 public:
     [[nodiscard]] static const Registry& instance();
 
+    [[nodiscard]] const std::vector<ClassEntry>& classes() const { return mClasses; }
     /// The class of this name that can be created, or nothing.
     [[nodiscard]] const ClassEntry* findClass(const std::string& name) const;
     /// The module of this name, or nothing.
@@ -85,7 +86,10 @@ private:
 
 /// What is registered, one function per file. The order is that of the look-up.
 void registerEditors(std::vector<ClassEntry>& classes);
+void registerStatus(std::vector<ClassEntry>& classes);
 void registerRecords(std::vector<ClassEntry>& classes);
+void registerActions(std::vector<ClassEntry>& classes);
+void registerGrid(std::vector<ClassEntry>& classes);
 void registerWidgets(std::vector<ClassEntry>& classes);
 void registerInterfaces(std::vector<ClassEntry>& classes);
 void registerModules(std::vector<ModuleEntry>& modules);

@@ -1,6 +1,8 @@
 #include "probe/scene.h"
 
+#include "platform/grid.h"
 #include "platform/label.h"
+#include "platform/pictures.h"
 #include "probe/registry.h"
 
 #include <algorithm>
@@ -107,9 +109,9 @@ void Scene::addPage(const Placement& placement, const std::string& type)
     const auto design = platform::Design{
         .Name = placement.name, .Index = placement.index.value_or(-1), .Tag = placement.tag};
     if (Widget* container = containerOf(placement)) {
-        item->widget = std::make_unique<Page>(*container, design, type);
+        item->widget = std::make_unique<Page>(mHost, *container, design, type);
     } else {
-        item->widget = std::make_unique<Page>(design, type);
+        item->widget = std::make_unique<Page>(mHost, design, type);
     }
     adopt(std::move(item), placement.attach);
 }
@@ -120,7 +122,7 @@ void Scene::add(const ClassEntry& type, const Placement& placement)
     item->name        = freeName(placement);
     Widget* container = containerOf(placement);
     if (container == nullptr) {
-        item->home = std::make_unique<Page>(platform::Design{}, "Page");
+        item->home = std::make_unique<Page>(mHost, platform::Design{}, "Page");
         item->home->SetMessenger(&mHost);
         container = item->home.get();
     }
@@ -169,8 +171,19 @@ void Scene::release(const std::string& name)
         mItems.erase(mItems.begin() + static_cast<std::ptrdiff_t>(i));
         mByName.erase(item->name);
         mByWidget.erase(inner);
+        takeAwayImages(*inner);
         if (inner == &released) {
             break;
+        }
+    }
+}
+
+void Scene::takeAwayImages(const Widget& dying) const
+{
+    for (const auto& item : mItems) {
+        auto* grid = dynamic_cast<platform::Grid*>(item->widget.get());
+        if (grid != nullptr && grid->imageList() == &dying) {
+            grid->setImageList(nullptr);
         }
     }
 }

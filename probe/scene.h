@@ -73,6 +73,8 @@ private:
     [[nodiscard]] platform::Widget* containerOf(const Placement& placement) const;
     /// Keeps a widget from now on, listens to it, and hands the Messenger over.
     void adopt(std::unique_ptr<Item> item, bool attach);
+    /// A grid that lines have given an image list to may live longer than the list.
+    void takeAwayImages(const platform::Widget& dying) const;
 
     Host&                                          mHost;
     const Output&                                  mOutput;
