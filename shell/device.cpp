@@ -20,13 +20,6 @@ namespace {
 
 using documents::attributeText;
 using platform::Failure;
-using platform::NodeType;
-
-constexpr const char* kMissing       = "missingItems";
-constexpr const char* kUnknown       = "commandIsNotImplemented";
-constexpr const char* kWrongValue    = "hartCmdErrInvalidSelection";
-constexpr const char* kNotWritable   = "hartCmdErrAccessRestricted";
-constexpr const char* kNotUnderstood = "communicationError";
 
 std::string optionalAttribute(const IXMLDOMNode& element, std::string_view name)
 {
@@ -42,20 +35,6 @@ std::optional<double> number(const std::string& text)
     return result.ec == std::errc{} && result.ptr == end && std::isfinite(value)
                ? std::optional{value}
                : std::nullopt;
-}
-
-/// Elements below a node by their name without a prefix: a request may come in the messages'
-/// namespace or in none.
-std::vector<IXMLDOMNode> children(const IXMLDOMNode& node, const std::string& name)
-{
-    std::vector<IXMLDOMNode> found;
-    for (const IXMLDOMNode& child : node.get_childNodes()) {
-        if (child.get_nodeType() == NodeType::element &&
-            (name.empty() || child.get_baseName() == name)) {
-            found.push_back(child);
-        }
-    }
-    return found;
 }
 
 /// Three whole numbers with the same separator between, as "d.m.yyyy" and "h:n:s" are written.
@@ -86,94 +65,13 @@ bool isDateOrTime(const std::string& text)
     return time && platform::isValid({2000, 1, 1, (*time)[0], (*time)[1], (*time)[2]});
 }
 
-/// A `communicationResponse` under construction.
-class Response {
-public:
-    Response(const std::string& name, const std::string& access, const std::string& errorCode)
-        : mDocument(IXMLDOMDocument::create())
-    {
-        const IXMLDOMNode root = mDocument.appendChild(element("dtm"));
-        mResponse              = root.appendChild(element("communicationResponse"));
-        documents::writeAttribute(mResponse, "name", name);
-        documents::writeAttribute(mResponse, "access", access);
-        documents::writeAttribute(mResponse, "responseStatus", errorCode.empty() ? "ok" : "error");
-        documents::writeAttribute(mResponse, "errorCode", errorCode);
-        documents::writeAttribute(mResponse, "isFinal", "0");
-    }
-
-    IXMLDOMNode addItem(const std::string& name)
-    {
-        const IXMLDOMNode item = mResponse.appendChild(element("item"));
-        documents::writeAttribute(item, "name", name);
-        return item;
-    }
-    void addItem(const std::string& name, const DeviceParameter& parameter)
-    {
-        const IXMLDOMNode item = addItem(name);
-        documents::writeAttribute(item, "unit",
-                                  parameter.unit.empty() ? documents::kNoUnit : parameter.unit);
-        item.appendChild(element(parameter.type)).put_text(parameter.value);
-    }
-    void makeFinal() { documents::writeAttribute(mResponse, "isFinal", "1"); }
-
-    [[nodiscard]] bool        isEmpty() const { return !mResponse.get_firstChild(); }
-    [[nodiscard]] std::string xml() const { return mDocument.get_xml(); }
-
-private:
-    [[nodiscard]] IXMLDOMNode element(const std::string& name) const
-    {
-        return mDocument.createNode(NodeType::element, name, documents::kCommunicationSchema);
-    }
-
-    IXMLDOMDocument mDocument;
-    IXMLDOMNode     mResponse;
-};
-
 } // namespace
-
-struct SimulatedDevice::Request {
-    std::string              name;
-    std::string              access;
-    std::vector<RequestItem> items;
-
-    explicit Request(const std::string& xml)
-    {
-        const IXMLDOMDocument document = documents::openText(xml);
-        IXMLDOMNode           request  = document.get_documentElement();
-        if (request.get_baseName() != "communicationRequest") {
-            const auto inside = children(request, "communicationRequest");
-            if (inside.empty()) {
-                throw Failure(platform::kInvalidCall, "no communicationRequest");
-            }
-            request = inside.front();
-        }
-        name   = attributeText(request, "name");
-        access = attributeText(request, "access");
-        for (const IXMLDOMNode& item : children(request, "item")) {
-            const auto values = children(item, "");
-            items.push_back({attributeText(item, "name"), optionalAttribute(item, "unit"),
-                             values.empty() ? std::string{} : values.front().get_text()});
-        }
-    }
-};
-
-/// What a request asked for in vain, by error code.
-struct SimulatedDevice::Refusals {
-    std::vector<std::pair<std::string, std::vector<std::string>>> byCode;
-
-    void add(const std::string& code, const std::string& item)
-    {
-        const auto found = std::ranges::find(byCode, code, [](const auto& c) { return c.first; });
-        if (found == byCode.end()) {
-            byCode.push_back({code, {item}});
-        } else {
-            found->second.push_back(item);
-        }
-    }
-};
 
 SimulatedDevice::SimulatedDevice(const IXMLDOMNode& datafile, const std::string& memory)
 {
+    if (const IXMLDOMNode name = datafile.selectSingleNode("//typeInfo:internalInfo/@name")) {
+        mTypeName = name.get_text();
+    }
     addParameters(datafile);
     addGroups(datafile);
     if (!memory.empty()) {
@@ -201,8 +99,8 @@ void SimulatedDevice::addParameters(const IXMLDOMNode& datafile)
                 list = modView::findSharedValueList(silent, nullptr, "ctr_" + name, datafile);
             }
             if (list) {
-                for (const IXMLDOMNode& mapping : children(list, "mapping")) {
-                    parameter.choices.insert(attributeText(mapping, "value"));
+                for (const IXMLDOMNode& value : list.selectNodes("./data:mapping/@value")) {
+                    parameter.choices.insert(value.get_text());
                 }
             }
         }
@@ -215,8 +113,8 @@ void SimulatedDevice::addGroups(const IXMLDOMNode& datafile)
     for (const IXMLDOMNode& group :
          datafile.selectNodes("./data:dtm/data:requestGroups/data:requestGroup")) {
         auto& members = mGroups[attributeText(group, "name")];
-        for (const IXMLDOMNode& listing : children(group, "includedParam")) {
-            members.push_back(attributeText(listing, "name"));
+        for (const IXMLDOMNode& name : group.selectNodes("./data:includedParam/@name")) {
+            members.push_back(name.get_text());
         }
     }
 }
@@ -245,91 +143,145 @@ void SimulatedDevice::loadMemory(const std::string& memory)
 
 std::vector<std::string> SimulatedDevice::answer(const std::string& requestXml)
 {
-    std::optional<Request> request;
+    DeviceRequest request;
     try {
-        request.emplace(requestXml);
+        request = DeviceRequest::parse(requestXml);
     } catch (const Failure&) {
         // A device that understands nothing says nothing, and the host's driver reports that.
-        Response response{"", "", kNotUnderstood};
-        response.makeFinal();
-        return {response.xml()};
+        return refusal({}, kErrNotUnderstood);
     }
-    const auto group = mGroups.find(request->name);
-    if (request->items.empty() && group != mGroups.end()) {
+    const auto group = mGroups.find(request.name);
+    if (request.items.empty() && group != mGroups.end()) {
         for (const std::string& member : group->second) {
-            request->items.push_back({member, {}, {}});
+            request.items.push_back({member, {}, {}});
         }
     }
-
-    std::vector<Response> responses;
     if (!mPrepared.empty()) {
-        const PreparedFailure failure = std::move(mPrepared.front());
-        mPrepared.pop_front();
-        Response& response =
-            responses.emplace_back(request->name, request->access, failure.errorCode);
-        for (const std::string& item : failure.items) {
-            response.addItem(item);
-        }
-        if (failure.items.empty()) {
-            for (const auto& item : request->items) {
-                response.addItem(item.name);
-            }
-        }
-    } else if ((request->items.empty() && group == mGroups.end()) ||
-               (request->access != "read" && request->access != "write")) {
-        responses.emplace_back(request->name, request->access, kUnknown);
-    } else {
-        Refusals refusals;
-        Response served{request->name, request->access, ""};
-        for (const RequestItem& item : request->items) {
-            if (const DeviceParameter* parameter =
-                    serve(item, request->access == "write", refusals)) {
-                served.addItem(item.name, *parameter);
-            }
-        }
-        if (!served.isEmpty() || refusals.byCode.empty()) {
-            responses.push_back(std::move(served));
-        }
-        for (const auto& [code, items] : refusals.byCode) {
-            Response& response = responses.emplace_back(request->name, request->access, code);
-            for (const std::string& item : items) {
-                response.addItem(item);
-            }
+        return answerPreparedFailure(request);
+    }
+    for (const auto& function : mFunctions) {
+        if (auto answered = function->answer(*this, request)) {
+            return *std::move(answered);
         }
     }
-    responses.back().makeFinal();
-
-    std::vector<std::string> texts;
-    for (const Response& response : responses) {
-        texts.push_back(response.xml());
-    }
-    return texts;
+    return answerFromParameters(request);
 }
 
-const DeviceParameter* SimulatedDevice::serve(const RequestItem& item, bool isWrite,
-                                              Refusals& refusals)
+std::vector<std::string> SimulatedDevice::answerPreparedFailure(const DeviceRequest& request)
 {
-    if (const auto failing = mFailing.find(item.name); failing != mFailing.end()) {
-        refusals.add(failing->second, item.name);
-        return nullptr;
+    const PreparedFailure failure = std::move(mPrepared.front());
+    mPrepared.pop_front();
+    if (failure.items.empty()) {
+        return refusal(request, failure.errorCode);
+    }
+    DeviceResponse response{request, failure.errorCode};
+    for (const std::string& item : failure.items) {
+        response.addItem(item);
+    }
+    return messageTexts({std::move(response)});
+}
+
+std::vector<std::string> SimulatedDevice::answerFromParameters(const DeviceRequest& request)
+{
+    const bool isEmptyGroup = request.items.empty() && mGroups.contains(request.name);
+    if ((request.items.empty() && !isEmptyGroup) || (!request.isRead() && !request.isWrite())) {
+        return messageTexts({DeviceResponse{request, kErrUnknownCommand}});
+    }
+    return compose(request, serve(request));
+}
+
+SimulatedDevice::Served SimulatedDevice::serve(const DeviceRequest& request)
+{
+    Served served;
+    for (const DeviceRequestItem& item : request.items) {
+        std::string errorCode = request.isWrite() ? write(item) : failureOf(item.name);
+        if (errorCode.empty() && !find(item.name)) {
+            errorCode = kErrMissingItems;
+        }
+        if (errorCode.empty()) {
+            served.items.push_back(item.name);
+        } else {
+            served.refusals.add(errorCode, item.name);
+        }
+    }
+    if (request.isWrite() && !served.items.empty()) {
+        for (const auto& function : mFunctions) {
+            function->written(*this, served.items);
+        }
+    }
+    return served;
+}
+
+std::vector<std::string> SimulatedDevice::compose(const DeviceRequest& request,
+                                                  const Served&        served,
+                                                  std::size_t          itemsInPart) const
+{
+    std::vector<DeviceResponse> parts;
+    if (!served.items.empty() || served.refusals.isEmpty()) {
+        parts.emplace_back(request);
+    }
+    std::size_t inPart = 0;
+    for (const std::string& name : served.items) {
+        if (inPart == itemsInPart && itemsInPart > 0) {
+            parts.emplace_back(request);
+            inPart = 0;
+        }
+        const DeviceParameter& parameter = mParameters.at(name);
+        parts.back().addItem(name, parameter.unit, parameter.type, parameter.value);
+        ++inPart;
+    }
+    served.refusals.appendTo(parts, request);
+    return messageTexts(std::move(parts));
+}
+
+void SimulatedDevice::add(std::unique_ptr<DeviceFunction> function)
+{
+    DeviceFunction& added = *mFunctions.emplace_back(std::move(function));
+    added.start(*this);
+}
+
+void SimulatedDevice::advance(double seconds)
+{
+    // A function sees the others as they stand at the end of each piece.
+    constexpr double kPiece = 1;
+    for (double left = seconds; left > 0; left -= kPiece) {
+        for (const auto& function : mFunctions) {
+            function->advance(*this, std::min(left, kPiece));
+        }
+    }
+}
+
+void SimulatedDevice::tellCondition(const std::string& condition, bool active)
+{
+    for (const auto& function : mFunctions) {
+        function->conditionChanged(*this, condition, active);
+    }
+}
+
+std::string SimulatedDevice::write(const DeviceRequestItem& item)
+{
+    std::string errorCode = failureOf(item.name);
+    if (!errorCode.empty()) {
+        return errorCode;
     }
     const auto found = mParameters.find(item.name);
     if (found == mParameters.end()) {
-        refusals.add(kMissing, item.name);
-        return nullptr;
+        return kErrMissingItems;
     }
-    if (isWrite && !found->second.writable) {
-        refusals.add(kNotWritable, item.name);
-        return nullptr;
+    DeviceParameter& parameter = found->second;
+    if (!parameter.writable) {
+        return kErrNotWritable;
     }
-    if (isWrite && !write(found->second, item)) {
-        refusals.add(kWrongValue, item.name);
-        return nullptr;
+    for (const auto& function : mFunctions) {
+        errorCode = function->refuses(*this, item);
+        if (!errorCode.empty()) {
+            return errorCode;
+        }
     }
-    return &found->second;
+    return take(parameter, item) ? "" : kErrWrongValue;
 }
 
-bool SimulatedDevice::write(DeviceParameter& parameter, const RequestItem& item)
+bool SimulatedDevice::take(DeviceParameter& parameter, const DeviceRequestItem& item)
 {
     if (!values::isNumericType(parameter.type)) {
         if (parameter.type == "dateVal" && !isDateOrTime(item.value)) {
@@ -387,6 +339,12 @@ void SimulatedDevice::failAlways(const std::string& parameter, const std::string
     } else {
         mFailing[parameter] = errorCode;
     }
+}
+
+std::string SimulatedDevice::failureOf(const std::string& parameter) const
+{
+    const auto failing = mFailing.find(parameter);
+    return failing == mFailing.end() ? std::string{} : failing->second;
 }
 
 const DeviceParameter* SimulatedDevice::find(const std::string& parameter) const
