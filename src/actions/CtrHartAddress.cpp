@@ -1,6 +1,6 @@
 #include "actions/CtrHartAddress.h"
 
-#include "framework/caption_width.h"
+#include "actions/form.h"
 #include "framework/values.h"
 #include "platform/xml_dom.h"
 
@@ -8,7 +8,8 @@ namespace quill {
 
 namespace {
 
-constexpr int kLastAddress = 15;
+constexpr int          kLastAddress = 15;
+constexpr std::int32_t kLabelWidth  = 1700;
 
 /// A value list as a datafile would bring it, with the addresses as names and values.
 std::string valueList(bool isMultidrop)
@@ -44,6 +45,7 @@ CtrHartAddress::CtrHartAddress(platform::Widget& container, const platform::Desi
 void CtrHartAddress::UserControl_Initialize()
 {
     paintFrames();
+    Resize.raise();
 }
 
 void CtrHartAddress::SetMessenger(Messenger* messenger)
@@ -65,22 +67,8 @@ void CtrHartAddress::Localize(Translator& translator)
     const Steps step = steps("Localize");
     step([&] { modView::Localize(*this, translator); });
     step([&] { UpdateHartAddress(); });
-    fitLabels();
-}
-
-void CtrHartAddress::fitLabels()
-{
-    constexpr std::int32_t kGap   = 100;
-    std::int32_t           widest = 1700;
-    for (const platform::Label& label : lblAssemblyRelated) {
-        widest = std::max(widest, captionWidth(label.Caption));
-    }
-    for (platform::Label& label : lblAssemblyRelated) {
-        label.Width = widest;
-    }
-    cceMultidrop.Left = cceAddress.Left = lblAssemblyRelated[0].Left + widest + kGap;
-    cmdSet.Left                         = cceMultidrop.Left + cceMultidrop.Width + 2 * kGap;
-    cmdSet.Width                        = buttonWidth(cmdSet.Caption, 1200);
+    fitRows({&lblAssemblyRelated[0], &lblAssemblyRelated[1]}, {&cceMultidrop, &cceAddress}, cmdSet,
+            kLabelWidth);
 }
 
 void CtrHartAddress::SetErrorData(const IXMLDOMNode& node)
@@ -103,14 +91,26 @@ void CtrHartAddress::SetOnlineData(const IXMLDOMNode& node)
     steps("IQornDataUser_SetOnlineData")([&] { modView::setOnlineData(*this, node); });
 }
 
+platform::WidgetList CtrHartAddress::GetControls()
+{
+    return listedBefore(PageView::GetControls(), cmdSet, cceMultidrop);
+}
+
 void CtrHartAddress::RequestFocus()
 {
     steps("IQornView_RequestFocus")([&] { cceMultidrop.SetFocus(); });
 }
 
-AddressService& CtrHartAddress::service()
+AddressService* CtrHartAddress::service(const Steps& step)
 {
-    return existing(host().GetAddressService());
+    return step.value<AddressService*>(nullptr, [&] { return host().GetAddressService(); });
+}
+
+std::optional<std::int16_t> CtrHartAddress::readAddress(const Steps& step)
+{
+    AddressService* const addresses = service(step);
+    return step.value(std::optional<std::int16_t>{},
+                      [&] { return existing(addresses).ReadAddress(); });
 }
 
 void CtrHartAddress::offerAddresses(const Steps& step, bool isMultidrop)
@@ -124,9 +124,8 @@ void CtrHartAddress::offerAddresses(const Steps& step, bool isMultidrop)
 
 void CtrHartAddress::UpdateHartAddress()
 {
-    const Steps step = steps("UpdateHartAddress");
-    const auto  address =
-        step.value(std::optional<std::int16_t>{}, [&] { return service().ReadAddress(); });
+    const Steps step    = steps("UpdateHartAddress");
+    const auto  address = readAddress(step);
     if (!address) {
         return;
     }
@@ -139,11 +138,9 @@ void CtrHartAddress::UpdateHartAddress()
 
 void CtrHartAddress::cceMultidrop_Change(const std::string& text)
 {
-    const Steps step = steps("cceMultidrop_Change");
-    const auto  address =
-        step.value(std::optional<std::int16_t>{}, [&] { return service().ReadAddress(); })
-            .value_or(0);
-    const bool isMultidrop = text != "disabled";
+    const Steps step        = steps("cceMultidrop_Change");
+    const auto  address     = readAddress(step).value_or(0);
+    const bool  isMultidrop = text != "disabled";
     offerAddresses(step, isMultidrop);
     if (isMultidrop && address != 0) {
         step([&] { cceAddress.setText(std::to_string(address)); });
@@ -167,8 +164,12 @@ void CtrHartAddress::cmdSet_Click()
         }
         address = static_cast<std::uint8_t>(number);
     });
-    // Without a number there is nothing to send: 0 would switch multidrop off behind the user.
-    if (!isRead || !step.value(false, [&] { return service().WriteAddress(0, 0, 0, address); })) {
+    if (!isRead) {
+        // Without a number there is nothing to send: 0 would switch multidrop off behind the user.
+        return;
+    }
+    AddressService* const addresses = service(step);
+    if (!step.value(false, [&] { return existing(addresses).WriteAddress(0, 0, 0, address); })) {
         return;
     }
     step([&] { cceMultidrop.SetModifiedForward(false); });

@@ -9,6 +9,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 namespace quill {
@@ -23,15 +24,8 @@ public:
     explicit CtrHartAddress(const platform::Design& design = {});
     CtrHartAddress(platform::Widget& container, const platform::Design& design = {});
 
+    // In the order of the Tab key.
     platform::Frame         frmViews{*this, {.Name = "frmViews", .Index = 0, .Tag = "hartAddress"}};
-    platform::CommandButton cmdSet{frmViews,
-                                   {.Name    = "cmdSet",
-                                    .Tag     = "ok",
-                                    .Caption = "OK",
-                                    .Left    = 6100,
-                                    .Top     = 720,
-                                    .Width   = 1200,
-                                    .Height  = 336}};
     CtrComboEdit            cceMultidrop{frmViews,
                               {.Name   = "cceMultidrop",
                                           .Tag    = "ctr_multidrop",
@@ -46,6 +40,14 @@ public:
                                         .Top    = 1155,
                                         .Width  = 3500,
                                         .Height = 330}};
+    platform::CommandButton cmdSet{frmViews,
+                                   {.Name    = "cmdSet",
+                                    .Tag     = "ok",
+                                    .Caption = "OK",
+                                    .Left    = 6100,
+                                    .Top     = 720,
+                                    .Width   = 1200,
+                                    .Height  = 336}};
     platform::Label         lblTitle{frmViews,
                              {.Name    = "lblTitle",
                                       .Tag     = "hartAddress",
@@ -85,7 +87,9 @@ public:
     void SetOfflineData(const IXMLDOMNode& node) override;
     void SetOnlineData(const IXMLDOMNode& node) override;
     // IQornView
-    void RequestFocus() override;
+    /// The form lists the button in front of the boxes.
+    platform::WidgetList GetControls() override;
+    void                 RequestFocus() override;
 
     /// Shows the address that the device has now; nothing changes if it cannot be read.
     void UpdateHartAddress();
@@ -96,8 +100,9 @@ private:
     void cmdSet_Click();
     void mMessenger_ViewSetCommunicationMode(std::int32_t mode);
 
-    void                          fitLabels();
-    [[nodiscard]] AddressService& service();
+    [[nodiscard]] AddressService* service(const Steps& step);
+    /// The address that the device has now, nothing if it cannot be read.
+    [[nodiscard]] std::optional<std::int16_t> readAddress(const Steps& step);
     /// Gives the address editor the addresses 1 to 15, or 0 alone.
     void offerAddresses(const Steps& step, bool isMultidrop);
 

@@ -1,5 +1,6 @@
 #include "actions/CtrMACalibration.h"
 
+#include "actions/form.h"
 #include "framework/caption_width.h"
 #include "framework/documents.h"
 #include "framework/modView.h"
@@ -106,11 +107,7 @@ void CtrMACalibration::UserControl_Initialize()
     }
     imgMACalibration[0].Picture = kCurrentStep;
     cmdBack.Enabled             = false;
-}
-
-void CtrMACalibration::SetMessenger(Messenger* messenger)
-{
-    PageView::SetMessenger(messenger);
+    Resize.raise();
 }
 
 void CtrMACalibration::Localize(Translator& translator)
@@ -161,7 +158,7 @@ void CtrMACalibration::SetOfflineData(const IXMLDOMNode& node)
     copyTestValue(step, node);
     step([&] { modView::setOfflineData(*this, node); });
     for (std::int32_t row = 1; row < static_cast<std::int32_t>(kSteps); ++row) {
-        step([&] { open(row, false); });
+        open(step, row, false);
     }
     step([&] { cteMACalibration[0].setText("4"); });
     step([&] { cteMACalibration[2].setText("20"); });
@@ -206,6 +203,11 @@ void CtrMACalibration::SetOnlineData(const IXMLDOMNode& node)
         }
     });
     step([&] { modView::setOnlineData(*this, node); });
+}
+
+platform::WidgetList CtrMACalibration::GetControls()
+{
+    return listedBefore(PageView::GetControls(), cmdBack, cmdNext);
 }
 
 bool CtrMACalibration::LeaveSelectedView()
@@ -264,21 +266,32 @@ void CtrMACalibration::cmdMACalibration_Click(int index)
 
 bool CtrMACalibration::sendStep(const Steps& step)
 {
-    if (!step.value(false, [&] { return rowOf(cteMACalibration, mStep).downloadable(); })) {
+    // Behind a Back too far there is no row: nothing is sent, and Next leads to the first one
+    // again.
+    if (!step.value(true, [&] { return rowOf(cteMACalibration, mStep).downloadable(); })) {
         return false;
     }
     if (mStep == 0) {
         cmdBack.Enabled = true;
     }
-    const std::string item =
-        step.text([&] { return rowOf(cteMACalibration, mStep).GetXmlItem(true).get_xml(); });
-    // The device knows one parameter, whatever step writes it.
-    const std::string request =
-        values::replaceAll("<communicationRequest name=\"mACalibration\" access=\"write\">" + item +
-                               "</communicationRequest>",
-                           stepName(mStep), kTestValue);
-    step([&] { host().SendCommunicationRequest(request, "mACalibration"); });
+    step([&] {
+        const std::string item = rowOf(cteMACalibration, mStep).GetXmlItem(true).get_xml();
+        // The device knows one parameter, whatever step writes it.
+        host().SendCommunicationRequest(
+            values::replaceAll("<communicationRequest name=\"mACalibration\" access=\"write\">" +
+                                   item + "</communicationRequest>",
+                               stepName(mStep), kTestValue),
+            "mACalibration");
+    });
     return true;
+}
+
+void CtrMACalibration::goByArrow(platform::KeyPress& key, platform::Widget& other)
+{
+    if (key.code >= platform::kKeyLeft && key.code <= platform::kKeyDown &&
+        other.focus() == platform::UserDoor::done) {
+        key.handled = true;
+    }
 }
 
 void CtrMACalibration::showNextAs(const Steps& step, const std::string& key)
@@ -295,27 +308,26 @@ void CtrMACalibration::showFinished(const Steps& step)
     showNextAs(step, kRecalibrate);
 }
 
-void CtrMACalibration::open(std::int32_t row, bool isOpen)
+void CtrMACalibration::open(const Steps& step, std::int32_t row, bool isOpen)
 {
-    CtrTextEdit& edit = rowOf(cteMACalibration, row);
-    edit.setEnabled(isOpen);
-    edit.TabStop = isOpen;
+    step([&] { rowOf(cteMACalibration, row).setEnabled(isOpen); });
+    step([&] { rowOf(cteMACalibration, row).TabStop = isOpen; });
 }
 
 void CtrMACalibration::showRows(const Steps& step)
 {
     for (std::int32_t row = 0; row < mStep; ++row) {
         step([&] { rowOf(imgMACalibration, row).Picture = kStepDone; });
-        step([&] { open(row, false); });
+        open(step, row, false);
     }
     if (mStep < kLastStep) {
-        step([&] { open(mStep, true); });
+        open(step, mStep, true);
         step([&] { rowOf(cteMACalibration, mStep).SetFocus(); });
     }
     step([&] { rowOf(imgMACalibration, mStep).Picture = kCurrentStep; });
     for (std::int32_t row = mStep + 1; row <= kLastStep; ++row) {
         step([&] { rowOf(imgMACalibration, row).Picture = ""; });
-        step([&] { open(row, false); });
+        open(step, row, false);
     }
 }
 

@@ -62,7 +62,8 @@ public:
          {frmViews, editor(2, "ctr_loopTestValueStep2")},
          {frmViews, editor(3, "ctr_loopCurrentGain")},
          {frmViews, editor(4, "ctr_loopTestValueStep4", false)}}};
-    // The form goes from the editors to Next, and out. Back lies behind.
+    // In the order of the Tab key: from the editors to Next, and out. Back lies behind; the arrow
+    // keys go from one to the other.
     platform::CommandButton cmdNext{frmViews,
                                     {.Name    = "cmdMACalibration",
                                      .Index   = 1,
@@ -88,8 +89,6 @@ public:
 
     [[nodiscard]] const char* TypeName() const override { return "CtrMACalibration"; }
 
-    // IQornComponent
-    void SetMessenger(Messenger* messenger) override;
     // ILocalizable
     void Localize(Translator& translator) override;
     // IQornDataUser
@@ -99,6 +98,8 @@ public:
     void SetOfflineData(const IXMLDOMNode& node) override;
     void SetOnlineData(const IXMLDOMNode& node) override;
     // IQornView
+    /// The form lists Back in front of Next.
+    platform::WidgetList GetControls() override;
     /// Asks while the device drives a fixed current; a yes switches it off and starts the wizard
     /// anew, anything else keeps the user here.
     bool LeaveSelectedView() override;
@@ -119,19 +120,25 @@ private:
     void cmdMACalibration_Click(int index);
 
     [[nodiscard]] bool isFinished() const noexcept;
-    /// Sends the value of the current step; false if it cannot go to the device.
+    /// Sends the value of the current step; false if there is one that cannot go to the device.
     bool sendStep(const Steps& step);
     void goOn(const Steps& step);
     void showFinished(const Steps& step);
     void showRows(const Steps& step);
-    void open(std::int32_t row, bool isOpen);
+    void open(const Steps& step, std::int32_t row, bool isOpen);
     void showNextAs(const Steps& step, const std::string& key);
     void copyTestValue(const Steps& step, const IXMLDOMNode& node);
     void fitTexts();
+    /// An arrow key brings the focus to the other button: between the two the Tab key leads out.
+    static void goByArrow(platform::KeyPress& key, platform::Widget& other);
 
     std::int32_t           mStep   = 0;
     platform::Subscription mOnNext = cmdNext.Click.subscribe([this] { cmdMACalibration_Click(1); });
     platform::Subscription mOnBack = cmdBack.Click.subscribe([this] { cmdMACalibration_Click(0); });
+    platform::Subscription mOnNextKey =
+        cmdNext.KeyDown.subscribe([this](platform::KeyPress& key) { goByArrow(key, cmdBack); });
+    platform::Subscription mOnBackKey =
+        cmdBack.KeyDown.subscribe([this](platform::KeyPress& key) { goByArrow(key, cmdNext); });
 };
 
 } // namespace quill

@@ -3,6 +3,9 @@
 #include "actions/bus_configuration.h"
 #include "framework/caption_width.h"
 #include "framework/documents.h"
+#include "framework/modTools.h"
+
+#include <algorithm>
 
 namespace quill {
 
@@ -31,18 +34,28 @@ int lengthAt(const Steps& step, const std::string& configuration, int digit)
     });
 }
 
-/// The bus configuration with another module in its second block.
-std::string withModule(const Steps& step, const std::string& configuration,
-                       const std::string& module)
+/// What of a bus configuration stays when its module is replaced.
+struct Cut {
+    std::string head; ///< behind the total length, to the end of the first block
+    std::string tail;
+};
+
+Cut cut(const Steps& step, const std::string& configuration)
 {
     using namespace busConfiguration;
-    const int  first  = lengthAt(step, configuration, 33);
-    const int  second = lengthAt(step, configuration, 33 + 2 * first);
-    const auto tail   = step.text([&] { return rest(configuration, 33 + 2 * (first + second)); });
+    const int first  = lengthAt(step, configuration, 33);
+    const int second = lengthAt(step, configuration, 33 + 2 * first);
+    return {step.text([&] { return piece(configuration, 5, 2 * first + 28); }),
+            step.text([&] { return rest(configuration, 33 + 2 * (first + second)); })};
+}
+
+/// The whole configuration around another module's.
+std::string around(const Steps& step, const Cut& cut, const std::string& module)
+{
+    using busConfiguration::word;
     const auto halfOf = [](std::size_t digits) { return static_cast<double>(digits) / 2; };
-    const auto moduleWord = step.text([&] { return word(halfOf(module.size()) + 2); });
-    const auto head       = step.text([&] { return piece(configuration, 5, 2 * first + 28); });
-    const auto body       = head + moduleWord + module + tail;
+    const auto length = step.text([&] { return word(halfOf(module.size()) + 2); });
+    const auto body   = cut.head + length + module + cut.tail;
     return step.text([&] { return word(halfOf(body.size() + 4)); }) + body;
 }
 
@@ -63,6 +76,7 @@ CtrModuleSelection::CtrModuleSelection(platform::Widget& container, const platfo
 void CtrModuleSelection::UserControl_Initialize()
 {
     paintFrames();
+    BackColor = frmModuleSelection.BackColor.get();
     // The host's document may name a module that the parameter document does not have.
     ModuleSelection.Editable = true;
     mParameterDocument       = makeDocument();
@@ -74,6 +88,8 @@ Steps CtrModuleSelection::steps(const char* procedure)
     return Steps{[this, place](int number, const std::string& description) {
         if (GetMessenger() != nullptr) {
             GetMessenger()->ReportErrorObject(place, number, description);
+        } else {
+            modTools::WriteDebugError("Quill GUI", place, number, description);
         }
     }};
 }
@@ -99,7 +115,17 @@ void CtrModuleSelection::findDocumentsFolder(const Steps& step)
 void CtrModuleSelection::Localize(Translator& translator)
 {
     steps("Localize")([&] { modView::Localize(*this, translator); });
-    cmdSetSelection.Width = buttonWidth(cmdSetSelection.Caption, 1500);
+    fitButton();
+}
+
+/// A long caption takes its room from the box.
+void CtrModuleSelection::fitButton()
+{
+    constexpr std::int32_t kLeft  = 6200;
+    constexpr std::int32_t kRight = 8800;
+    cmdSetSelection.Width         = buttonWidth(cmdSetSelection.Caption, 1500);
+    cmdSetSelection.Left          = std::min(kLeft, kRight - cmdSetSelection.Width);
+    ModuleSelection.Width         = cmdSetSelection.Left - 200 - ModuleSelection.Left;
 }
 
 void CtrModuleSelection::SetImportData(const IXMLDOMNode& node)
@@ -130,6 +156,7 @@ void CtrModuleSelection::SetOfflineData(const IXMLDOMNode& node)
         step([&] { ModuleSelection.setText(""); });
         step([&] { ModuleSelection.setText(documents::attributeText(name, "name")); });
     }
+    ModuleSelection_Click();
 }
 
 void CtrModuleSelection::listModules(const Steps& step, const IXMLDOMNode& datafile)
@@ -181,11 +208,12 @@ void CtrModuleSelection::cmdSetSelection_Click()
     const std::string configuration = read(bus, "busMasterConfigurationPart");
     (void)read(module, "configurationData"); // a module without it is worth a report
 
+    const Cut         kept  = cut(step, configuration);
     const IXMLDOMNode fresh = chosenModule(step);
     if (!fresh) {
         return;
     }
-    const std::string rebuilt = withModule(step, configuration, read(fresh, "configurationData"));
+    const std::string rebuilt = around(step, kept, read(fresh, "configurationData"));
     if (bus) {
         step([&] { platform::attributeNode(bus, "busMasterConfigurationPart").put_text(rebuilt); });
     }
@@ -195,6 +223,7 @@ void CtrModuleSelection::cmdSetSelection_Click()
 
 void CtrModuleSelection::ModuleSelection_Click()
 {
+    // A long name can be cut off.
     ModuleSelection.ToolTipText = ModuleSelection.Text();
 }
 

@@ -27,13 +27,13 @@ public:
         {.Name = "frmModuleSelection", .Tag = "moduleSelection", .Width = 9000, .Height = 3000}};
     platform::ComboBox ModuleSelection{
         frmModuleSelection,
-        {.Name = "ModuleSelection", .Left = 600, .Top = 900, .Width = 5400, .Height = 330}};
+        {.Name = "ModuleSelection", .Left = 600, .Top = 735, .Width = 5400, .Height = 330}};
     platform::CommandButton cmdSetSelection{frmModuleSelection,
                                             {.Name    = "cmdSetSelection",
                                              .Tag     = "apply",
                                              .Caption = "Apply",
                                              .Left    = 6200,
-                                             .Top     = 880,
+                                             .Top     = 715,
                                              .Width   = 1500,
                                              .Height  = 370}};
     platform::Label         lblTitle{frmModuleSelection,
@@ -65,12 +65,15 @@ public:
 
 protected:
     [[nodiscard]] Steps steps(const char* procedure) override;
+    /// The frame keeps its size.
+    void UserControl_Resize() override {}
 
 private:
     void UserControl_Initialize();
     void ModuleSelection_Click();
     void cmdSetSelection_Click();
 
+    void fitButton();
     void findDocumentsFolder(const Steps& step);
     void listModules(const Steps& step, const IXMLDOMNode& datafile);
     /// The host's document; an empty one, with a report, if it cannot be read.
@@ -84,6 +87,8 @@ private:
     platform::Subscription mOnMode;
     platform::Subscription mOnChoice =
         ModuleSelection.Click.subscribe([this] { ModuleSelection_Click(); });
+    platform::Subscription mOnTyped =
+        ModuleSelection.Change.subscribe([this] { ModuleSelection_Click(); });
     platform::Subscription mOnSet =
         cmdSetSelection.Click.subscribe([this] { cmdSetSelection_Click(); });
     platform::Subscription mOnFirstLost = ModuleSelection.LostFocus.subscribe(

@@ -1,6 +1,6 @@
 #include "actions/CtrReset.h"
 
-#include "framework/caption_width.h"
+#include "actions/form.h"
 #include "framework/documents.h"
 #include "framework/modTools.h"
 #include "framework/modView.h"
@@ -10,7 +10,8 @@ namespace quill {
 
 namespace {
 
-constexpr std::int32_t kRowPitch = 400;
+constexpr std::int32_t kRowPitch   = 400;
+constexpr std::int32_t kLabelWidth = 1300;
 
 constexpr const char* kHead =
     "<?xml version=\"1.0\"?><dtm xmlns=\"x-schema:QVXCommunicationSchema.xml\">"
@@ -35,6 +36,7 @@ void CtrReset::UserControl_Initialize()
     for (CtrComboEdit& combo : cceReset) {
         combo.setSilent(true);
     }
+    Resize.raise();
 }
 
 void CtrReset::SetMessenger(Messenger* messenger)
@@ -51,22 +53,8 @@ void CtrReset::Localize(Translator& translator)
 {
     const Steps step = steps("Localize");
     step([&] { modView::Localize(*this, translator); });
-    fitLabels();
-}
-
-void CtrReset::fitLabels()
-{
-    constexpr std::int32_t kGap   = 100;
-    std::int32_t           widest = 1300;
-    for (const platform::Label& label : lblReset) {
-        widest = std::max(widest, captionWidth(label.Caption));
-    }
-    for (std::size_t row = 0; row < cceReset.size(); ++row) {
-        lblReset[row].Width = widest;
-        cceReset[row].Left  = lblReset[row].Left + widest + kGap;
-    }
-    cmdReset.Left  = cceReset[0].Left + cceReset[0].Width + 2 * kGap;
-    cmdReset.Width = buttonWidth(cmdReset.Caption, 1200);
+    fitRows({&lblReset[0], &lblReset[1], &lblReset[2]}, {&cceReset[0], &cceReset[1], &cceReset[2]},
+            cmdReset, kLabelWidth);
 }
 
 void CtrReset::SetErrorData(const IXMLDOMNode& node)
@@ -184,10 +172,10 @@ void CtrReset::send(const std::string& request)
 
 void CtrReset::mMessenger_ViewSetCommunicationMode()
 {
-    cmdReset.Enabled = steps("mMessenger_ViewSetCommunicationMode").value(false, [&] {
-        return host().GetUserLevel() >= kMaintenanceLevel &&
-               host().GetCommunicationMode() == kOnline;
-    });
+    const Steps step  = steps("mMessenger_ViewSetCommunicationMode");
+    const auto  level = step.value(std::int16_t{0}, [&] { return host().GetUserLevel(); });
+    const auto  mode  = step.value(std::int32_t{0}, [&] { return host().GetCommunicationMode(); });
+    cmdReset.Enabled  = level >= kMaintenanceLevel && mode == kOnline;
 }
 
 } // namespace quill

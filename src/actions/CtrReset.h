@@ -113,9 +113,7 @@ private:
     void mMessenger_ViewSetCommunicationMode();
 
     /// The row has no parameter: it goes, and those below move up.
-    void removeRow(std::size_t row);
-    /// Makes room for labels that are longer than the form expects.
-    void        fitLabels();
+    void        removeRow(std::size_t row);
     void        resetStatus(const Steps& step);
     void        resetByCode(const Steps& step, std::size_t row, const std::string& titleKey,
                             const std::string& questionKey);

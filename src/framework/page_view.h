@@ -37,6 +37,8 @@ protected:
     void paintFrames();
     /// Called after every change of size, once the frames fill the view.
     virtual void arrange() {}
+    /// Lays the form out for the present size: at each change of it, and once the form is complete.
+    virtual void UserControl_Resize();
     /// The frames that lie right on this view.
     [[nodiscard]] platform::WidgetList subPages() const override;
 
@@ -44,8 +46,6 @@ protected:
     [[nodiscard]] const char* className() const noexcept { return mClassName; }
 
 private:
-    void UserControl_Resize();
-
     const char*            mClassName;
     platform::Subscription mOnResize = Resize.subscribe([this] { UserControl_Resize(); });
 };

@@ -117,6 +117,17 @@ TEST_F(CtrHartAddressTest, NoAddressServiceIsReported)
                 ElementsAre(HasSubstr("CtrHartAddress UpdateHartAddress: , 91")));
 }
 
+TEST_F(CtrHartAddressTest, AFailingServiceLeavesTheNextStatementWithoutOne)
+{
+    view.SetMessenger(&messenger);
+    messenger.failOn("GetAddressService");
+    messenger.clear();
+    view.UpdateHartAddress();
+    EXPECT_THAT(messenger.errors(),
+                ElementsAre(HasSubstr("CtrHartAddress UpdateHartAddress: , 5"),
+                            HasSubstr("CtrHartAddress UpdateHartAddress: , 91")));
+}
+
 TEST_F(CtrHartAddressTest, MultidropSwitchedOnProposesAddressOne)
 {
     service.address = 0;
@@ -226,6 +237,39 @@ TEST_F(CtrHartAddressTest, TabLeadsOutOfTheViewAtItsTwoEnds)
     view.cmdSet.focus();
     view.cmdSet.blur();
     EXPECT_EQ(messenger.callsTo("TransferFocus").size(), 2U);
+}
+
+TEST_F(CtrHartAddressTest, TheFormListsTheButtonFirstAndTheTabKeyComesToItLast)
+{
+    const auto names = [](const platform::WidgetList& widgets, bool stopsOnly) {
+        std::vector<std::string> found;
+        for (const platform::Widget* widget : widgets) {
+            if (!stopsOnly || widget->TabStop) {
+                found.push_back(widget->Name);
+            }
+        }
+        return found;
+    };
+    EXPECT_THAT(names(view.GetControls(), false),
+                ElementsAre("frmViews", "cmdSet", "cceMultidrop", "cceAddress", "lblTitle",
+                            "lblAssemblyRelated", "lblAssemblyRelated"));
+    EXPECT_THAT(names(view.Widgets(), true), ElementsAre("cceMultidrop", "cceAddress", "cmdSet"));
+}
+
+TEST_F(CtrHartAddressTest, LongLabelsTakeTheirRoomFromTheBoxes)
+{
+    translator.texts["multidrop"] = std::string(25, 'x');
+    view.Localize(translator);
+    EXPECT_EQ(view.lblAssemblyRelated[1].Width, 2500);
+    EXPECT_EQ(view.cceMultidrop.Left, 3200);
+    EXPECT_EQ(view.cceAddress.Left + view.cceAddress.Width, 5900);
+    EXPECT_EQ(view.cmdSet.Left, 6100);
+}
+
+TEST_F(CtrHartAddressTest, AViewThatIsMadeWithASizeShowsItsFrameAtOnce)
+{
+    const CtrHartAddress sized{page, {.Name = "sized", .Width = 8000, .Height = 5000}};
+    EXPECT_EQ(sized.frmViews.Width, 8000);
 }
 
 TEST_F(CtrHartAddressTest, ItsOwnTagShowsTheFirstFrame)

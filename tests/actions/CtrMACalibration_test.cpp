@@ -200,7 +200,8 @@ TEST_F(CtrMACalibrationTest, AWholeRunWritesFiveValuesAndTheDeviceSeesItsOwnName
     next();
     EXPECT_THAT(sent(),
                 ElementsAre(request("loopTestValue", "4.000"), request("loopCurrentZero", "4.020"),
-                            request("loopTestValue", "20.000"), request("loopCurrentGain", "19.900"),
+                            request("loopTestValue", "20.000"),
+                            request("loopCurrentGain", "19.900"),
                             HasSubstr("<item name=\"loopTestValue\" unit=\"mA\"><floatVal>0")));
     EXPECT_EQ(view.miCalibrationStep(), 5);
     EXPECT_THAT(pictures(),
@@ -289,15 +290,28 @@ TEST_F(CtrMACalibrationTest, AnErrorAfterTheEndLeavesTheButtonsAndNextSwitchesOf
     EXPECT_EQ(view.miCalibrationStep(), 5);
 }
 
-TEST_F(CtrMACalibrationTest, AnErrorAtTheFirstStepIsReportedAndNothingIsSentFromThere)
+TEST_F(CtrMACalibrationTest, AnErrorAtTheFirstStepIsReportedForEachStatementThatFails)
 {
     load();
     answerWithError();
     EXPECT_EQ(view.miCalibrationStep(), -1);
-    EXPECT_THAT(messenger.errors(),
-                testing::Contains(HasSubstr("VwAdvanced cmdMACalibration_Click: , 9")));
+    const auto report = HasSubstr("VwAdvanced cmdMACalibration_Click: , 9");
+    // Enabled, TabStop, the focus, the picture.
+    EXPECT_THAT(messenger.errors(), ElementsAre(report, report, report, report));
+}
+
+TEST_F(CtrMACalibrationTest, FromBeforeTheFirstStepNextLeadsToItAndNothingIsSent)
+{
+    load();
+    answerWithError();
     next();
     EXPECT_THAT(sent(), IsEmpty());
+    EXPECT_EQ(view.miCalibrationStep(), 0);
+    EXPECT_THAT(pictures(), ElementsAre("currentStep", "", "", "", ""));
+    EXPECT_THAT(openRows(), ElementsAre(true, false, false, false, false));
+    next();
+    EXPECT_EQ(view.miCalibrationStep(), 1);
+    EXPECT_THAT(sent(), SizeIs(1));
 }
 
 TEST_F(CtrMACalibrationTest, AnAnswerReachesTheEditorOfTheStepThatAsked)
@@ -397,6 +411,64 @@ TEST_F(CtrMACalibrationTest, TheFocusComesToTheFirstEditor)
     load();
     view.RequestFocus();
     EXPECT_TRUE(view.cteMACalibration[0].HasFocus());
+}
+
+TEST_F(CtrMACalibrationTest, AViewThatIsMadeWithASizeIsLaidOutAtOnce)
+{
+    const CtrMACalibration sized{page, {.Name = "sized", .Width = 9000, .Height = 6000}};
+    EXPECT_EQ(sized.frmViews.Width, 9000);
+    EXPECT_EQ(sized.ctrDateLabels[0].Left, 6600);
+}
+
+TEST_F(CtrMACalibrationTest, TheFormListsBackInFrontOfNextAndTheTabKeyComesFirstToNext)
+{
+    const auto lastFive = [](const platform::WidgetList& widgets) {
+        std::vector<std::string> names;
+        for (auto widget = widgets.end() - 5; widget != widgets.end(); ++widget) {
+            names.push_back((*widget)->Name + (dynamic_cast<platform::CommandButton*>(*widget)
+                                                   ? std::to_string((*widget)->Index)
+                                                   : ""));
+        }
+        return names;
+    };
+    EXPECT_THAT(lastFive(view.GetControls()),
+                ElementsAre("cmdMACalibration0", "cmdMACalibration1", "CtrFocusTransfer2",
+                            "CtrFocusTransfer1", "imlCalibration"));
+    EXPECT_THAT(lastFive(view.Widgets()),
+                ElementsAre("cmdMACalibration1", "CtrFocusTransfer2", "cmdMACalibration0",
+                            "CtrFocusTransfer1", "imlCalibration"));
+}
+
+TEST_F(CtrMACalibrationTest, ArrowKeysGoBetweenTheButtonsWithoutLeavingTheView)
+{
+    load();
+    goTo(1);
+    for (const int key : {platform::kKeyLeft, platform::kKeyUp}) {
+        view.cmdNext.focus();
+        view.cmdNext.press(key);
+        EXPECT_TRUE(view.cmdBack.HasFocus()) << key;
+    }
+    for (const int key : {platform::kKeyRight, platform::kKeyDown}) {
+        view.cmdBack.focus();
+        view.cmdBack.press(key);
+        EXPECT_TRUE(view.cmdNext.HasFocus()) << key;
+    }
+    EXPECT_FALSE(messenger.wasCalled("TransferFocus"));
+    view.cmdBack.click();
+    view.cmdNext.focus();
+    view.cmdNext.press(platform::kKeyLeft); // Back is disabled now
+    EXPECT_TRUE(view.cmdNext.HasFocus());
+}
+
+TEST_F(CtrMACalibrationTest, AStepWithoutAParameterStillSendsItsRequest)
+{
+    datafile = test::datafile(parameter("loopCurrentZero"));
+    load();
+    next();
+    EXPECT_THAT(sent(), ElementsAre("SendCommunicationRequest(<communicationRequest "
+                                    "name=\"mACalibration\" access=\"write\">"
+                                    "</communicationRequest>, mACalibration)"));
+    EXPECT_EQ(view.miCalibrationStep(), 1);
 }
 
 TEST_F(CtrMACalibrationTest, LongTextsMoveTheEditorsAndTheButtons)

@@ -208,6 +208,15 @@ TEST_F(CtrModuleSelectionTest, AnUnknownTextWritesNothing)
     EXPECT_THAT(reports(), ElementsAre(HasSubstr("CtrModuleSelection cmdSetSelectoinClick: ")));
 }
 
+TEST_F(CtrModuleSelectionTest, ABrokenConfigurationIsReportedAlsoWhereNoModuleIsFound)
+{
+    messenger.hostDocuments["FDT"] = hostDocument("0012" + kHead + "G000");
+    load();
+    choose("nobody");
+    EXPECT_THAT(reports(), ElementsAre(HasSubstr(", 13"), HasSubstr(", 13")));
+    EXPECT_FALSE(messenger.wasCalled("SetHostDocument"));
+}
+
 TEST_F(CtrModuleSelectionTest, AHostDocumentThatIsNoXmlIsLeftAlone)
 {
     load();
@@ -285,6 +294,46 @@ TEST_F(CtrModuleSelectionTest, TheToolTipShowsALongName)
     load();
     view.ModuleSelection.choose(3);
     EXPECT_EQ(view.ModuleSelection.ToolTipText.get(), "Odd");
+}
+
+TEST_F(CtrModuleSelectionTest, TheToolTipIsThereFromTheLoadOnAndFollowsWhatIsTyped)
+{
+    load();
+    EXPECT_EQ(view.ModuleSelection.ToolTipText.get(), "M1");
+    view.ModuleSelection.type("M");
+    EXPECT_EQ(view.ModuleSelection.ToolTipText.get(), "M");
+}
+
+TEST_F(CtrModuleSelectionTest, AChangeOfItsSizeLeavesTheFrameAlone)
+{
+    const std::int32_t width  = view.frmModuleSelection.Width;
+    const std::int32_t height = view.frmModuleSelection.Height;
+    view.resize(12000, 1000);
+    EXPECT_EQ(view.frmModuleSelection.Width, width);
+    EXPECT_EQ(view.frmModuleSelection.Height, height);
+    EXPECT_EQ(view.BackColor, view.frmModuleSelection.BackColor.get());
+}
+
+TEST_F(CtrModuleSelectionTest, WithoutAMessengerFailuresGoToTheDebugOutput)
+{
+    view.PrepareToRelease();
+    view.cmdSetSelection.click();
+    EXPECT_THAT(toolkit.debugLines,
+                ElementsAre(HasSubstr("CtrModuleSelection cmdSetSelectoinClick:  error 91")));
+}
+
+TEST_F(CtrModuleSelectionTest, ALongCaptionTakesItsRoomFromTheBox)
+{
+    translator.texts["apply"] = std::string(30, 'x');
+    view.Localize(translator);
+    const auto endOf = [](const platform::Widget& widget) { return widget.Left + widget.Width; };
+    EXPECT_GE(view.cmdSetSelection.Width, 3000);
+    EXPECT_LE(endOf(view.cmdSetSelection), view.frmModuleSelection.Width);
+    EXPECT_LT(endOf(view.ModuleSelection), view.cmdSetSelection.Left);
+    translator.texts["apply"] = "x";
+    view.Localize(translator);
+    EXPECT_EQ(view.cmdSetSelection.Left, 6200);
+    EXPECT_EQ(view.ModuleSelection.Width, 5400);
 }
 
 TEST_F(CtrModuleSelectionTest, ResponsesDoNotConcernIt)

@@ -97,12 +97,20 @@ TEST_F(CtrResetTest, TheButtonNeedsMaintenanceLevelAndTheOnlineMode)
     EXPECT_FALSE(view.cmdReset.Enabled);
 }
 
+TEST_F(CtrResetTest, LevelAndModeAreBothAskedWhateverTheFirstAnswerIs)
+{
+    goOnline(2);
+    messenger.ViewSetCommunicationMode.raise(kOnline);
+    EXPECT_THAT(messenger.calls, ElementsAre("GetUserLevel()", "GetCommunicationMode()"));
+}
+
 TEST_F(CtrResetTest, AHostThatCannotTellTheLevelLeavesTheButtonDisabled)
 {
     goOnline();
     messenger.failOn("GetUserLevel");
     messenger.ViewSetCommunicationMode.raise(kOnline);
     EXPECT_FALSE(view.cmdReset.Enabled);
+    EXPECT_TRUE(messenger.wasCalled("GetCommunicationMode"));
     EXPECT_THAT(messenger.errors(),
                 ElementsAre(HasSubstr("CtrReset mMessenger_ViewSetCommunicationMode: ")));
 }
@@ -318,13 +326,49 @@ TEST_F(CtrResetTest, TheFrameFillsTheViewAndIsWhite)
     EXPECT_EQ(view.frmViews.BackColor, 0xffffffU);
 }
 
-TEST_F(CtrResetTest, LongLabelsPushTheBoxesAside)
+TEST_F(CtrResetTest, LongLabelsTakeTheirRoomFromTheBoxes)
 {
     EXPECT_EQ(view.cceReset[0].Left, 2000);
+    translator.texts["diagnostics"] = std::string(20, 'x');
+    view.Localize(translator);
+    for (std::size_t row = 0; row < view.cceReset.size(); ++row) {
+        EXPECT_EQ(view.lblReset[row].Width, 2000);
+        EXPECT_EQ(view.cceReset[row].Left, 2700);
+        EXPECT_EQ(view.cceReset[row].Left + view.cceReset[row].Width, 5900);
+    }
+    EXPECT_EQ(view.cmdReset.Left, 6100);
+}
+
+TEST_F(CtrResetTest, LabelsThatAreLongerStillMoveTheButton)
+{
+    translator.texts["diagnostics"] = std::string(40, 'x');
+    translator.texts["reset"]       = std::string(15, 'x');
+    view.Localize(translator);
+    EXPECT_EQ(view.cceReset[1].Left, 4700);
+    EXPECT_EQ(view.cceReset[1].Width, 2700);
+    EXPECT_EQ(view.cmdReset.Left, 7600);
+    EXPECT_GE(view.cmdReset.Width, 1500);
+}
+
+TEST_F(CtrResetTest, ShortTextsBringTheFormBack)
+{
     translator.texts["diagnostics"] = std::string(40, 'x');
     view.Localize(translator);
-    EXPECT_GE(view.cceReset[1].Left, view.lblReset[1].Left + 4000);
-    EXPECT_GE(view.cmdReset.Left, view.cceReset[1].Left + view.cceReset[1].Width);
+    for (const char* key : {"diagnostics", "resetStatus", "resetParametersCode", "reset"}) {
+        translator.texts[key] = "x";
+    }
+    view.Localize(translator);
+    EXPECT_EQ(view.cceReset[1].Left, 2000);
+    EXPECT_EQ(view.cceReset[1].Width, 3900);
+    EXPECT_EQ(view.cmdReset.Left, 6100);
+    EXPECT_EQ(view.cmdReset.Width, 1200);
+}
+
+TEST_F(CtrResetTest, AViewThatIsMadeWithASizeShowsItsFrameAtOnce)
+{
+    const CtrReset sized{page, {.Name = "sized", .Width = 8000, .Height = 5000}};
+    EXPECT_EQ(sized.frmViews.Width, 8000);
+    EXPECT_EQ(sized.frmViews.Height, 5000);
 }
 
 TEST_F(CtrResetTest, ItsOwnTagShowsTheFirstFrame)
