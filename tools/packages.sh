@@ -1,6 +1,6 @@
 # Debian packages by what they are needed for; sourced by the other tools.
 QUILL_BUILD_PACKAGES="g++ cmake ninja-build pkg-config libxml2-dev nlohmann-json3-dev
-qt6-base-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools fonts-dejavu-core"
+qt6-base-dev qt6-svg-dev qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools fonts-dejavu-core"
 QUILL_TEST_PACKAGES="libgtest-dev libgmock-dev libudunits2-dev libbenchmark-dev xvfb clang
 libclang-rt-14-dev"
 QUILL_LINT_PACKAGES="clang-format clang-tidy python3"

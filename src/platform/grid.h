@@ -27,9 +27,9 @@ public:
         std::optional<std::int32_t> Value; ///< of a check cell 0 or 1, of a drop-down its entry's
         Color                       BackColor = kWindowBackground;
         std::int16_t                icon      = -1; ///< place in the image list, -1 for none
-        std::int16_t                list      = -1; ///< place among the drop-down lists, -1 for none
-        CellKind                    kind      = CellKind::text;
-        bool                        Editable  = true;
+        std::int16_t                list     = -1; ///< place among the drop-down lists, -1 for none
+        CellKind                    kind     = CellKind::text;
+        bool                        Editable = true;
     };
     /// An entry of a drop-down list.
     struct Entry {
@@ -61,7 +61,7 @@ public:
     /// The mouse has come over a cell.
     Event<int, int> Hover;
     /// The user has moved the cursor to another cell. A cursor that the program moves is no event.
-    Event<int, int> CurCellChange;
+    Event<int, int>     CurCellChange;
     Event<EditRequest&> RequestEdit;
     /// The user is typing into a cell; what he typed so far is `EditText`.
     Event<int, int> TextEditChange;
@@ -78,17 +78,18 @@ public:
     /// Takes away rows, columns and drop-down lists; the image list stays.
     void Clear();
     /// Answers the number of the new column. Rows that are there get an empty cell.
-    int  AddCol(Column column);
-    void setColumnWidth(int col, std::int32_t width);
-    void setColumnVisible(int col, bool visible);
-    void setColumnText(int col, const std::string& text);
+    int                         AddCol(Column column);
+    void                        setColumnWidth(int col, std::int32_t width);
+    void                        setColumnVisible(int col, bool visible);
+    void                        setColumnText(int col, const std::string& text);
     [[nodiscard]] const Column& column(int col) const;
     [[nodiscard]] int           ColCount() const noexcept;
 
     /// Adds a row behind the last descendant of `parent`, or at the end for 0, and answers its
     /// number.
     int AddRow(int parent = 0);
-    /// Adds rows without a parent at the end, or cuts the last ones off. Less than 0 is a failure 5.
+    /// Adds rows without a parent at the end, or cuts the last ones off. Less than 0 is a
+    /// failure 5.
     void              setRowCount(int count);
     [[nodiscard]] int RowCount() const noexcept;
     /// The row's parent, 0 on the top level.
@@ -107,10 +108,10 @@ public:
 
     [[nodiscard]] const Cell& cell(int row, int col) const;
     void                      setCellText(int row, int col, const std::string& text);
-    void setCellValue(int row, int col, std::optional<std::int32_t> value);
-    void setCellBackColor(int row, int col, Color color);
-    void setCellEditable(int row, int col, bool editable);
-    void setCellKind(int row, int col, CellKind kind);
+    void                      setCellValue(int row, int col, std::optional<std::int32_t> value);
+    void                      setCellBackColor(int row, int col, Color color);
+    void                      setCellEditable(int row, int col, bool editable);
+    void                      setCellKind(int row, int col, CellKind kind);
 
     /// Where icons come from. The list must outlive its use; nothing takes it away.
     void                           setImageList(const ImageList* images);
@@ -151,15 +152,20 @@ public:
     UserDoor rightClickCell(int row, int col);
     UserDoor hoverCell(int row, int col);
     UserDoor moveTo(int row, int col);
-    /// Exactly these rows; the cursor goes to the first.
+    /// Exactly these rows; the cursor goes to the first and keeps its column.
     UserDoor select(const std::vector<int>& rows);
+    /// Folds the children of a row in or out; a row without children refuses. A cursor that would
+    /// be folded in comes to the row.
     UserDoor expand(int row, bool expanded);
 
-    /// Types into a cell: refused where it cannot be edited or where a `RequestEdit` handler says
-    /// no. An edit of another cell is committed first.
+    /// Opens a cell for typing, with the text that it has: refused where it cannot be edited or
+    /// where a `RequestEdit` handler says no. An edit of another cell is committed first.
+    UserDoor beginEdit(int row, int col);
+    /// Types into a cell, which is opened for it if need be.
     UserDoor typeCell(int row, int col, const std::string& text);
     /// What is typed becomes what the cell holds. A text that the cell's drop-down list does not
-    /// have is dropped, and so is one for a check cell other than "0" and "1": refused.
+    /// have is dropped, and so is one for a check cell other than "0" and "1": refused. A cell in
+    /// which nothing was typed is closed as it was.
     UserDoor commitEdit();
     void     cancelEdit();
     /// `typeCell` and `commitEdit`.
@@ -182,14 +188,16 @@ private:
         bool              expanded = true;
     };
 
-    void               start();
-    [[nodiscard]] Row& at(int row);
-    [[nodiscard]] const Row& at(int row) const;
-    [[nodiscard]] Cell&      at(int row, int col);
-    [[nodiscard]] Column&    columnAt(int col);
+    void                      start();
+    [[nodiscard]] Row&        at(int row);
+    [[nodiscard]] const Row&  at(int row) const;
+    [[nodiscard]] Cell&       at(int row, int col);
+    [[nodiscard]] Column&     columnAt(int col);
     [[nodiscard]] std::size_t listPlace(const std::string& key) const;
     [[nodiscard]] bool        isReachable(int row, int col) const;
-    [[nodiscard]] bool        mayEdit(int row, int col);
+    [[nodiscard]] bool        isSeen(int row) const;
+    [[nodiscard]] bool        canEdit(int row, int col) const;
+    [[nodiscard]] bool        isUnder(int row, int above) const;
     void                      commit(int row, int col, Cell fresh);
     void                      tell(const WidgetChange& change);
     void                      tellCell(int row, int col);
@@ -205,6 +213,7 @@ private:
     int                                                     mCurCol   = 0;
     int                                                     mEditRow  = 0;
     int                                                     mEditCol  = 0;
+    bool                                                    mTyped    = false;
     bool                                                    mHeldBack = false;
 };
 

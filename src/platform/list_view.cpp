@@ -3,6 +3,7 @@
 #include "platform/failure.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quill::platform {
 
@@ -133,8 +134,9 @@ void ListView::setFirstVisible(int row)
     if (row != 0) {
         (void)at(row);
     }
-    mEnsured = 0;
-    if (row != mFirstVisible) {
+    // Who shows the list has scrolled on for a row below the first visible one.
+    const bool scrolled = std::exchange(mEnsured, 0) != 0;
+    if (row != mFirstVisible || scrolled) {
         mFirstVisible = row;
         notify({});
     }

@@ -27,9 +27,9 @@ struct Design {
 };
 
 /// What changed in a widget: one property, or a range of rows (0-based, `last` included) of a
-/// widget that holds many, all of it or one column only. `form`: a widget was added to this control's form; it is still under
-/// construction and must not be touched yet. `destroyed`: the last word of a dying widget, of which
-/// only the address is left.
+/// widget that holds many, all of it or one column only. `form`: a widget was added to this
+/// control's form; it is still under construction and must not be touched yet. `destroyed`: the
+/// last word of a dying widget, of which only the address is left.
 struct WidgetChange {
     enum class What { property, rowsChanged, rowsInserted, rowsRemoved, reset, form, destroyed };
     What        what     = What::property;

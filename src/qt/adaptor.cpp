@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QFocusEvent>
 #include <QKeyEvent>
+#include <QPointer>
 #include <QWheelEvent>
 
 #include <exception>
@@ -19,16 +20,15 @@ namespace {
 
 using What = platform::WidgetChange::What;
 
-/// Losing the window or opening a pop-up does not take the focus from the form.
+constexpr char kAdaptorProperty[] = "quillAdaptor";
+
+} // namespace
+
 bool comesBack(Qt::FocusReason reason)
 {
     return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
            reason == Qt::MenuBarFocusReason;
 }
-
-constexpr char kAdaptorProperty[] = "quillAdaptor";
-
-} // namespace
 
 Adaptor::Adaptor(Screen& screen, platform::Widget& model, QWidget* widget)
     : QObject(widget), mScreen(&screen), mModel(&model), mWidget(widget)
@@ -146,6 +146,13 @@ void Adaptor::showColors(QPalette::ColorRole text, QPalette::ColorRole ground)
         // The value of a box is to be read also while it cannot be changed.
         own.setColor(QPalette::Disabled, text, faintColor(shownText, shownGround));
     }
+    if (ground == QPalette::Base) {
+        if (const QColor selection = selectionColor(ours);
+            selection != ours.color(QPalette::Active, QPalette::Highlight)) {
+            own.setColor(QPalette::Active, QPalette::Highlight, selection);
+            own.setColor(QPalette::Inactive, QPalette::Highlight, selection);
+        }
+    }
     if (takesFocus() && isDark(ours) && ground != QPalette::Window) {
         own.setColor(QPalette::Window, outlineColor(ours));
     }
@@ -191,7 +198,7 @@ bool Adaptor::eventFilter(QObject* watched, QEvent* event)
         }
         focusLeft(static_cast<QFocusEvent*>(event)->reason());
         return false;
-    case QEvent::KeyPress: return keyPressed(static_cast<QKeyEvent&>(*event));
+    case QEvent::KeyPress: return !mAnswering && keyPressed(static_cast<QKeyEvent&>(*event));
     case QEvent::Wheel:
         // A turn of the wheel over a page must not change a value in passing.
         if (changesByWheel() && !mWidget->hasFocus()) {
@@ -229,19 +236,49 @@ bool Adaptor::keyPressed(QKeyEvent& event)
     const bool back  = event.key() == Qt::Key_Backtab;
     const int  shift = shiftState(event.modifiers()) | (back ? platform::kShift : 0);
     // A key that a handler takes never comes up at the widget; neither does one whose widget goes.
-    bool taken = true;
-    auto up    = mModel->KeyUp.subscribe([&taken](const platform::KeyPress&) { taken = false; });
+    bool taken    = true;
+    bool answered = false;
+    auto up       = mModel->KeyUp.subscribe([&taken](const platform::KeyPress&) { taken = false; });
+    platform::Subscription down;
+    if (answersBeforeKeyUp() && code != platform::kKeyTab) {
+        // Where a key climbs past without being taken, it comes up next.
+        platform::Widget* outermost = mModel;
+        while (outermost->Container() != nullptr) {
+            outermost = outermost->Container();
+        }
+        down = outermost->KeyDown.subscribe([&](const platform::KeyPress& key) {
+            if (!key.handled && !answered) {
+                answered = true;
+                answer(event);
+            }
+        });
+    }
     byUser([&] {
         if (mModel->press(code, shift) == platform::UserDoor::refused) {
             taken = false;
         }
     });
     up.drop();
-    if (taken) {
+    down.drop();
+    if (answered || taken) {
         event.accept();
         return true;
     }
     return mModel != nullptr && unclaimedKey(event);
+}
+
+void Adaptor::answer(QKeyEvent& event)
+{
+    if (mModel == nullptr || unclaimedKey(event)) {
+        return;
+    }
+    // The same event on its usual way, climbing included, but past this filter.
+    const QPointer<Adaptor> self(this);
+    mAnswering = true;
+    QCoreApplication::sendEvent(mWidget, &event);
+    if (self) {
+        mAnswering = false;
+    }
 }
 
 } // namespace quill::qt

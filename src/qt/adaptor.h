@@ -88,6 +88,9 @@ protected:
     [[nodiscard]] virtual bool changesByWheel() const { return false; }
     /// A key that no handler of the model has taken; true if the widget has used it up.
     virtual bool unclaimedKey(const QKeyEvent&) { return false; }
+    /// Whether the Qt widget is to answer a key before the model hears that it has come up: views
+    /// read then what the key has selected.
+    [[nodiscard]] virtual bool answersBeforeKeyUp() const { return false; }
     /// Another event of the Qt widget; true to keep it from the widget.
     virtual bool otherEvent(QEvent&) { return false; }
     /// A tool tip that the widget needs besides the model's, such as a text that is cut.
@@ -100,11 +103,14 @@ protected:
 
     [[nodiscard]] Screen* screen() const noexcept { return mScreen; }
 
+    /// The keyboard focus has left the Qt widget, or one inside it, for another.
+    void focusLeft(Qt::FocusReason reason);
+
 private:
     void heard(const platform::WidgetChange& change);
     void reportEscaped(const std::exception& error);
     bool keyPressed(QKeyEvent& event);
-    void focusLeft(Qt::FocusReason reason);
+    void answer(QKeyEvent& event);
 
     Screen*                mScreen;
     platform::Widget*      mModel;
@@ -115,8 +121,13 @@ private:
     QMargins               mSpread;
     QString                mState;
     QPalette               mOwnPalette;
-    bool                   mUpdating = false;
+    bool                   mUpdating  = false;
+    bool                   mAnswering = false;
 };
+
+/// Whether the focus that goes for this reason comes back by itself: another window or a pop-up
+/// does not take it from the form.
+[[nodiscard]] bool comesBack(Qt::FocusReason reason);
 
 /// The adaptor of a Qt widget or of the one around it, in whatever view; nothing for a Qt widget
 /// that shows no model.

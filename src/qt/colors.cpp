@@ -76,7 +76,9 @@ QColor darkGround(const QColor& color, const QPalette& palette)
     return QColor::fromHslF(std::max(0.0F, color.hslHueF()), color.hslSaturationF() * 0.6F, 0.18F);
 }
 
-QColor readable(const QColor& color, const QColor& ground)
+} // namespace
+
+QColor readableColor(const QColor& color, const QColor& ground)
 {
     // Away from the ground; white or black itself reaches 4.5:1 on any.
     const QColor away =
@@ -91,7 +93,17 @@ QColor readable(const QColor& color, const QColor& ground)
     return away;
 }
 
-} // namespace
+QColor selectionColor(const QPalette& palette)
+{
+    return readableColor(palette.color(QPalette::Active, Role::Highlight),
+                         palette.color(QPalette::Active, Role::HighlightedText));
+}
+
+QColor lineColor(const QPalette& palette)
+{
+    return mixed(palette.color(QPalette::Active, Role::Base),
+                 palette.color(QPalette::Active, Role::Text), 0.13);
+}
 
 QColor faintColor(const QColor& text, const QColor& ground)
 {
@@ -135,7 +147,7 @@ QColor shownColor(platform::Color color, QPalette::ColorRole role, const QPalett
     const QColor given(static_cast<int>(color & 0xFFU), static_cast<int>((color >> 8) & 0xFFU),
                        static_cast<int>((color >> 16) & 0xFFU));
     if (isText(role)) {
-        return readable(given, ground.isValid() ? ground : groundOf(role, palette));
+        return readableColor(given, ground.isValid() ? ground : groundOf(role, palette));
     }
     return isDark(palette) ? darkGround(given, palette) : given;
 }

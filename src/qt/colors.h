@@ -17,6 +17,15 @@ namespace quill::qt {
 [[nodiscard]] QColor shownColor(platform::Color color, QPalette::ColorRole role,
                                 const QPalette& palette, const QColor& ground = {});
 
+/// A colour made as light or as dark as it must be to be told from `ground` as well as a text.
+[[nodiscard]] QColor readableColor(const QColor& color, const QColor& ground);
+
+/// The palette's ground of what is selected, far enough from the text on it.
+[[nodiscard]] QColor selectionColor(const QPalette& palette);
+
+/// The quiet lines between the rows and columns of a list, on the palette's `Base`.
+[[nodiscard]] QColor lineColor(const QPalette& palette);
+
 /// Text of a box that is disabled for now: fainter than `text`, but a value that is to be read.
 [[nodiscard]] QColor faintColor(const QColor& text, const QColor& ground);
 

@@ -1,60 +1,15 @@
+#include "qt/combo.h"
 #include "qt/kinds.h"
 #include "qt/text.h"
 
 #include <QAbstractItemView>
 #include <QApplication>
-#include <QComboBox>
 #include <QLineEdit>
 #include <QSignalBlocker>
-#include <QStyleOptionComboBox>
-#include <QStylePainter>
 
 namespace quill::qt {
 
 namespace {
-
-/// Opens its list wide enough for every entry, and shows by an ellipsis that a text goes on.
-class Combo : public QComboBox {
-public:
-    using QComboBox::QComboBox;
-
-    /// A list that lets nobody choose stays closed.
-    void setLocked(bool locked) { mLocked = locked; }
-
-    void showPopup() override
-    {
-        if (mLocked) {
-            return;
-        }
-        constexpr int kMargin = 24;
-        view()->setMinimumWidth(view()->sizeHintForColumn(0) + kMargin);
-        QComboBox::showPopup();
-    }
-
-protected:
-    void paintEvent(QPaintEvent* event) override
-    {
-        if (isEditable()) {
-            QComboBox::paintEvent(event);
-            return;
-        }
-        QStylePainter        painter(this);
-        QStyleOptionComboBox option;
-        initStyleOption(&option);
-        painter.drawComplexControl(QStyle::CC_ComboBox, option);
-        const int room =
-            style()
-                ->subControlRect(QStyle::CC_ComboBox, &option, QStyle::SC_ComboBoxEditField, this)
-                .width();
-        option.currentText =
-            fontMetrics().elidedText(option.currentText, Qt::ElideRight, room - kTextMargin);
-        painter.drawControl(QStyle::CE_ComboBoxLabel, option);
-    }
-
-private:
-    static constexpr int kTextMargin = 4;
-    bool                 mLocked     = false;
-};
 
 class ComboAdaptor : public KindAdaptor<platform::ComboBox, Combo> {
 public:

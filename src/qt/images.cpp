@@ -1,5 +1,7 @@
 #include "qt/images.h"
 
+#include "qt/svg_icon.h"
+
 #include <unordered_map>
 
 namespace quill::qt {
@@ -23,7 +25,13 @@ void Images::put(const std::string& key, const QIcon& icon)
 QIcon Images::find(const std::string& key)
 {
     const auto found = icons().find(key);
-    return found == icons().end() ? QIcon{} : found->second;
+    if (found != icons().end() && !found->second.isNull()) {
+        return found->second;
+    }
+    static auto& builtIn = *new std::unordered_map<std::string, QIcon>;
+    const auto   known   = builtIn.find(key);
+    return known != builtIn.end() ? known->second
+                                  : builtIn.emplace(key, builtInIcon(key)).first->second;
 }
 
 } // namespace quill::qt

@@ -27,6 +27,7 @@ constexpr Make kKinds[] = {
     byType<platform::ComboBox, makeComboBox>,
     byType<platform::DatePicker, makeDatePicker>,
     byType<platform::ListView, makeListView>,
+    byType<platform::Grid, makeGrid>,
     byType<platform::Image, makeImage>,
     byType<platform::Frame, makeFrame>,
     byType<platform::Control, makeControl>,

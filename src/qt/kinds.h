@@ -19,6 +19,7 @@ namespace quill::qt {
 [[nodiscard]] Adaptor* makeComboBox(Screen& screen, platform::ComboBox& model, QWidget* parent);
 [[nodiscard]] Adaptor* makeDatePicker(Screen& screen, platform::DatePicker& model, QWidget* parent);
 [[nodiscard]] Adaptor* makeListView(Screen& screen, platform::ListView& model, QWidget* parent);
+[[nodiscard]] Adaptor* makeGrid(Screen& screen, platform::Grid& model, QWidget* parent);
 [[nodiscard]] Adaptor* makeImage(Screen& screen, platform::Image& model, QWidget* parent);
 [[nodiscard]] Adaptor* makeControl(Screen& screen, platform::Control& model, QWidget* parent);
 [[nodiscard]] Adaptor* makePanel(Screen& screen, CtrTBLaunchedPanel& model, QWidget* parent);

@@ -1,17 +1,15 @@
+#include "qt/click_adaptor.h"
 #include "qt/kinds.h"
 #include "qt/text.h"
-
-#include <QLabel>
-#include <QMouseEvent>
 
 namespace quill::qt {
 
 namespace {
 
-class LabelAdaptor : public KindAdaptor<platform::Label, QLabel> {
+class LabelAdaptor : public ClickAdaptor<platform::Label> {
 public:
     LabelAdaptor(Screen& screen, platform::Label& label, QLabel* shownLabel)
-        : KindAdaptor(screen, label, shownLabel)
+        : ClickAdaptor(screen, label, shownLabel)
     {
         shownLabel->setTextFormat(Qt::PlainText);
         shownLabel->setAlignment(Qt::AlignLeft | Qt::AlignVCenter);
@@ -19,10 +17,7 @@ public:
 
     void update() override
     {
-        Adaptor::update();
-        shown()->setAutoFillBackground(kind().BackColor != platform::kButtonFace);
-        shown()->setCursor(kind().Click.empty() ? Qt::ArrowCursor : Qt::PointingHandCursor);
-        showColors(QPalette::WindowText, QPalette::Window);
+        ClickAdaptor::update();
         showText();
     }
 
@@ -47,7 +42,6 @@ public:
         return {text, kUsualHeight, true, true};
     }
 
-    [[nodiscard]] bool    takesFocus() const override { return false; }
     [[nodiscard]] QString ownName() const override { return toQt(kind().Caption); }
 
 protected:
@@ -59,21 +53,6 @@ protected:
     [[nodiscard]] QString extraToolTip() const override
     {
         return mCut ? toQt(kind().Caption) : QString{};
-    }
-
-    bool otherEvent(QEvent& event) override
-    {
-        if (event.type() == QEvent::MouseButtonRelease) {
-            const auto& mouse = static_cast<QMouseEvent&>(event);
-            if (mouse.button() == Qt::LeftButton && shown()->rect().contains(mouse.pos())) {
-                byUser([this] { kind().click(); });
-            }
-        } else if (event.type() == QEvent::MouseButtonPress) {
-            // Whoever takes the press gets the release too.
-            event.accept();
-            return true;
-        }
-        return false;
     }
 
 private:

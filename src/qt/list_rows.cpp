@@ -1,5 +1,6 @@
 #include "qt/list_rows.h"
 
+#include "qt/row_changes.h"
 #include "qt/text.h"
 
 #include <algorithm>
@@ -7,30 +8,7 @@
 
 namespace quill::qt {
 
-namespace {
-
 using What = platform::WidgetChange::What;
-
-/// Takes `next` into `last`, where the two are one change.
-bool merged(platform::WidgetChange& last, const platform::WidgetChange& next)
-{
-    if (last.what != next.what) {
-        return false;
-    }
-    if (next.what == What::rowsInserted && next.first == last.last + 1) {
-        last.last = next.last;
-        return true;
-    }
-    if (next.what == What::rowsChanged && next.first <= last.last + 1 &&
-        next.last >= last.first - 1) {
-        last.first = std::min(last.first, next.first);
-        last.last  = std::max(last.last, next.last);
-        return true;
-    }
-    return false;
-}
-
-} // namespace
 
 ListRows::ListRows(std::function<const platform::ListView*()> list,
                    std::function<void(int, bool)> check, QObject* parent)
@@ -48,7 +26,7 @@ void ListRows::note(const platform::WidgetChange& change)
     case What::rowsRemoved:
         // A reset that waits shows everything anyway.
         if ((mWaiting.empty() || mWaiting.back().what != What::reset) &&
-            (mWaiting.empty() || !merged(mWaiting.back(), change))) {
+            (mWaiting.empty() || !merge(mWaiting.back(), change))) {
             mWaiting.push_back(change);
         }
         break;
@@ -131,7 +109,7 @@ QVariant ListRows::data(const QModelIndex& index, int role) const
     };
     switch (role) {
     case Qt::DisplayRole: return text();
-    case Qt::ToolTipRole: return row->ToolTipText.empty() ? text() : toQt(row->ToolTipText);
+    case Qt::ToolTipRole: return toQt(row->ToolTipText);
     case Qt::CheckStateRole:
         if (column == 0 && mList()->CheckBoxes) {
             return row->Checked ? Qt::Checked : Qt::Unchecked;

@@ -1,14 +1,8 @@
 #include "qt/kinds.h"
 #include "qt/list_rows.h"
-#include "qt/text.h"
+#include "qt/rows_adaptor.h"
 
-#include <QApplication>
-#include <QHeaderView>
-#include <QKeyEvent>
-#include <QMouseEvent>
 #include <QScrollBar>
-#include <QStyledItemDelegate>
-#include <QTreeView>
 
 #include <algorithm>
 
@@ -16,93 +10,27 @@ namespace quill::qt {
 
 namespace {
 
-/// Tells when the user's event is over: only then the selection and the current row agree.
-class Tree : public QTreeView {
+class ListAdaptor : public RowsAdaptor<platform::ListView> {
 public:
-    using QTreeView::QTreeView;
-    std::function<void()> picked;
-
-protected:
-    void mousePressEvent(QMouseEvent* event) override
-    {
-        QTreeView::mousePressEvent(event);
-        picked();
-    }
-    void mouseMoveEvent(QMouseEvent* event) override
-    {
-        QTreeView::mouseMoveEvent(event);
-        picked();
-    }
-    void mouseReleaseEvent(QMouseEvent* event) override
-    {
-        QTreeView::mouseReleaseEvent(event);
-        picked();
-    }
-    void keyPressEvent(QKeyEvent* event) override
-    {
-        QTreeView::keyPressEvent(event);
-        picked();
-    }
-};
-
-/// Rows with some air, for the eye and for the finger.
-class RoomyRows : public QStyledItemDelegate {
-public:
-    using QStyledItemDelegate::QStyledItemDelegate;
-
-    [[nodiscard]] QSize sizeHint(const QStyleOptionViewItem& option,
-                                 const QModelIndex&          index) const override
-    {
-        constexpr QSize kAir(0, 6);
-        return QStyledItemDelegate::sizeHint(option, index) + kAir;
-    }
-};
-
-class ListAdaptor : public KindAdaptor<platform::ListView, QTreeView> {
-public:
-    ListAdaptor(Screen& screen, platform::ListView& model, Tree* tree)
-        : KindAdaptor(screen, model, tree),
+    ListAdaptor(Screen& screen, platform::ListView& model, RowsTree* tree)
+        : RowsAdaptor(screen, model, tree),
           mRows(new ListRows(
               [this] { return list(); },
               [this](int row, bool checked) { byUser([&] { kind().check(row, checked); }); }, tree))
     {
-        tree->picked = [this] { tellSelection(); };
-        tree->setModel(mRows);
         tree->setItemDelegate(new RoomyRows(tree));
-        auto* const corner = new QWidget(tree);
-        corner->setAutoFillBackground(true);
-        corner->setBackgroundRole(QPalette::Base);
-        tree->setCornerWidget(corner);
-        tree->setRootIsDecorated(false);
-        tree->setUniformRowHeights(true);
-        tree->setAllColumnsShowFocus(true);
-        tree->setSelectionBehavior(QAbstractItemView::SelectRows);
-        tree->setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
-        tree->setEditTriggers(QAbstractItemView::NoEditTriggers);
-        tree->setTabKeyNavigation(false);
-        tree->header()->setSectionsMovable(false);
-        tree->header()->setStretchLastSection(true);
-        tree->header()->setMinimumSectionSize(0);
-        // Assistive programs select without a mouse or a key.
-        connect(tree->selectionModel(), &QItemSelectionModel::selectionChanged, this, [this] {
-            if (!mShowing) {
-                QMetaObject::invokeMethod(
-                    this, [this] { tellSelection(); }, Qt::QueuedConnection);
-            }
-        });
+        setRows(mRows);
         connect(tree->verticalScrollBar(), &QScrollBar::valueChanged, this, [this](int row) {
-            if (!mShowing && list() != nullptr && row < list()->Count()) {
+            if (!showing() && list() != nullptr && row < list()->Count()) {
                 mFirstShown = row + 1;
                 kind().setFirstVisible(row + 1);
             }
         });
-        connect(tree->header(), &QHeaderView::sectionResized, this,
-                [this](int column, int, int width) { tellWidth(column, width); });
     }
 
     void update() override
     {
-        mShowing = true;
+        tellUntold();
         Adaptor::update();
         showColors(QPalette::Text, QPalette::Base);
         if (mCheckBoxes != kind().CheckBoxes) {
@@ -110,26 +38,16 @@ public:
             mRows->note({platform::WidgetChange::What::rowsChanged, nullptr, 0,
                          std::max(0, kind().Count() - 1)});
         }
-        mRows->tell();
-        showColumns();
-        showSelection();
-        showFirst();
-        mShowing = false;
+        show([this] {
+            mRows->tell();
+            showColumns();
+            showSelection();
+            showFirst();
+        });
     }
-
-    [[nodiscard]] Fit fit() const override { return {shown()->sizeHint()}; }
 
 protected:
     void note(const platform::WidgetChange& change) override { mRows->note(change); }
-
-    bool otherEvent(QEvent& event) override
-    {
-        if (event.type() == QEvent::FocusIn) {
-            QMetaObject::invokeMethod(
-                this, [this] { refresh(); }, Qt::QueuedConnection);
-        }
-        return false;
-    }
 
     bool unclaimedKey(const QKeyEvent& event) override
     {
@@ -137,11 +55,36 @@ protected:
         const QModelIndex current = shown()->currentIndex();
         if (event.key() != Qt::Key_Space || event.modifiers() != Qt::NoModifier ||
             !kind().CheckBoxes || !current.isValid()) {
-            return false;
+            return RowsAdaptor::unclaimedKey(event);
         }
         const int row = current.row() + 1;
         byUser([&] { kind().check(row, !kind().Item(row).Checked); });
         return true;
+    }
+
+    void tellSelection() override
+    {
+        if (showing() || list() == nullptr) {
+            return;
+        }
+        auto       rows    = shownRows();
+        const int  current = shown()->currentIndex().row() + 1;
+        const auto place   = std::find(rows.begin(), rows.end(), current);
+        const bool inside  = place != rows.end();
+        if (rows == selectedRows() && (!inside || current == kind().SelectedItem())) {
+            return;
+        }
+        if (inside) {
+            std::rotate(rows.begin(), place, place + 1);
+        }
+        byUser([&] { kind().select(rows); });
+    }
+
+    void tellWidth(int column, int pixels) override
+    {
+        if (column < static_cast<int>(kind().ColumnHeaders().size())) {
+            kind().setColumnWidth(column + 1, toTwips(pixels));
+        }
     }
 
 private:
@@ -172,13 +115,13 @@ private:
     {
         shown()->setSelectionMode(kind().MultiSelect ? QAbstractItemView::ExtendedSelection
                                                      : QAbstractItemView::SingleSelection);
-        if (selectedRows() != shownRows()) {
-            QItemSelection selection;
-            for (const int row : selectedRows()) {
-                selection.select(mRows->index(row - 1, 0),
-                                 mRows->index(row - 1, mRows->columnCount() - 1));
+        if (const auto rows = selectedRows(); rows != shownRows()) {
+            std::vector<QModelIndex> cells;
+            cells.reserve(rows.size());
+            for (const int row : rows) {
+                cells.push_back(mRows->index(row - 1, 0));
             }
-            shown()->selectionModel()->select(selection, QItemSelectionModel::ClearAndSelect);
+            selectRows(cells);
         }
         // Without a selection the cursor stays where it is; a list with the focus always has one,
         // so that the space bar means a row.
@@ -197,10 +140,20 @@ private:
 
     void showFirst()
     {
+        // How many rows are to be seen is not known before.
+        if (!shown()->isVisible()) {
+            return;
+        }
+        const int count = mRows->rowCount();
         const int first = kind().FirstVisible();
-        if (first != mFirstShown && first > 0 && first <= mRows->rowCount()) {
+        if (first != mFirstShown && first > 0 && first <= count) {
             mFirstShown = first;
             shown()->scrollTo(mRows->index(first - 1, 0), QAbstractItemView::PositionAtTop);
+        }
+        if (const int ensured = kind().EnsuredVisible(); ensured > 0 && ensured <= count) {
+            shown()->scrollTo(mRows->index(ensured - 1, 0), QAbstractItemView::EnsureVisible);
+            mFirstShown = shown()->verticalScrollBar()->value() + 1;
+            kind().setFirstVisible(mFirstShown);
         }
     }
 
@@ -219,43 +172,16 @@ private:
     [[nodiscard]] std::vector<int> shownRows() const
     {
         std::vector<int> rows;
-        for (const QModelIndex& index : shown()->selectionModel()->selectedRows()) {
-            rows.push_back(index.row() + 1);
+        for (const QItemSelectionRange& range : shown()->selectionModel()->selection()) {
+            for (int row = range.top(); row <= range.bottom(); ++row) {
+                rows.push_back(row + 1);
+            }
         }
         std::sort(rows.begin(), rows.end());
         return rows;
     }
 
-    void tellSelection()
-    {
-        if (mShowing || list() == nullptr) {
-            return;
-        }
-        auto       rows    = shownRows();
-        const int  current = shown()->currentIndex().row() + 1;
-        const auto place   = std::find(rows.begin(), rows.end(), current);
-        const bool inside  = place != rows.end();
-        if (rows == selectedRows() && (!inside || current == kind().SelectedItem())) {
-            return;
-        }
-        if (inside) {
-            std::rotate(rows.begin(), place, place + 1);
-        }
-        byUser([&] { kind().select(rows); });
-    }
-
-    void tellWidth(int column, int width)
-    {
-        // Only a header that is dragged tells the user's wish.
-        const bool dragged = QApplication::mouseButtons() != Qt::NoButton;
-        if (!mShowing && dragged && list() != nullptr &&
-            column < static_cast<int>(list()->ColumnHeaders().size())) {
-            kind().setColumnWidth(column + 1, toTwips(width));
-        }
-    }
-
     ListRows* mRows;
-    bool      mShowing    = false;
     bool      mCheckBoxes = false;
     int       mFirstShown = 0;
     /// Widths of the columns as they were shown last, in pixels.
@@ -266,7 +192,7 @@ private:
 
 Adaptor* makeListView(Screen& screen, platform::ListView& model, QWidget* parent)
 {
-    return new ListAdaptor(screen, model, new Tree(parent));
+    return new ListAdaptor(screen, model, new RowsTree(parent));
 }
 
 } // namespace quill::qt

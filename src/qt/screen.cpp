@@ -250,8 +250,9 @@ void Screen::showFocus()
         return nullptr;
     };
     QWidget* const current = mArea.window()->focusWidget();
-    const bool     inside =
-        current != nullptr && holder->widget()->isAncestorOf(current) && !holder->takesFocus();
+    // A container's focus is on what lies in it, a grid's may be on the box over a cell.
+    const bool inside = current != nullptr && holder->widget()->isAncestorOf(current) &&
+                        (!holder->takesFocus() || adaptorAt(current) == holder);
     QWidget* const target = firstIn(*holder, firstIn);
     if (target != nullptr && target != current && !inside) {
         target->setFocus(Qt::OtherFocusReason);

@@ -40,6 +40,37 @@ bool onRow(const Adaptor& adaptor, const QRect& row)
     return middle >= row.top() && middle <= row.bottom();
 }
 
+QString unitBehind(const Adaptor& container, const Adaptor& adaptor)
+{
+    const QRect            place   = adaptor.widget()->geometry();
+    const platform::Label* nearest = nullptr;
+    int                    left    = 0;
+    for (const Adaptor* other : container.children()) {
+        const platform::Label* const label = labelOf(*other);
+        const int                    x     = other->widget()->x();
+        // Where boxes stand in a row, each has its unit right behind it.
+        if (label != nullptr && isUnit(*label) && onRow(*other, place) && x > place.x() &&
+            (nearest == nullptr || x < left)) {
+            nearest = label;
+            left    = x;
+        }
+    }
+    return nearest != nullptr ? toQt(nearest->Caption) : QString{};
+}
+
+QStringList stateBeside(const Adaptor& container, const Adaptor& adaptor, const StateWords& words)
+{
+    QStringList state;
+    const QRect place = adaptor.widget()->geometry();
+    for (const Adaptor* other : container.children()) {
+        const platform::Label* const label = labelOf(*other);
+        if (label != nullptr && isSign(*label) && onRow(*other, place)) {
+            state << (label->Name == "lblError" ? words.error : words.modified);
+        }
+    }
+    return state;
+}
+
 } // namespace
 
 QString Screen::labelBeside(const Adaptor& container, const Adaptor& adaptor) const
@@ -118,30 +149,21 @@ void Screen::describeChildren(const Adaptor& container)
             child->describe(word, word);
             continue;
         }
-        if (!child->takesFocus()) {
-            child->describe(labelFor(*child), {});
-            if (child->spreads()) {
-                describeChildren(*child);
-            }
-            continue;
-        }
         QStringList parts{labelFor(*child)};
         QStringList state;
-        const QRect place = child->widget()->geometry();
-        for (const Adaptor* other : container.children()) {
-            const platform::Label* const label = labelOf(*other);
-            if (label == nullptr || !onRow(*other, place)) {
-                continue;
-            }
-            if (isSign(*label)) {
-                state << (label->Name == "lblError" ? mWords.error : mWords.modified);
-            } else if (isUnit(*label) && other->widget()->x() > place.x()) {
-                parts << toQt(label->Caption);
-            }
+        // A group is not where the focus is, but it is read out when the focus comes into it.
+        if (child->takesFocus()) {
+            parts << unitBehind(container, *child);
+            state = stateBeside(container, *child, mWords);
+        } else if (dynamic_cast<const platform::Frame*>(child->model()) != nullptr) {
+            state = stateBeside(container, *child, mWords);
         }
         parts << state;
         parts.removeAll(QString{});
         child->describe(parts.join(QStringLiteral(", ")), state.join(QStringLiteral(", ")));
+        if (!child->takesFocus() && child->spreads()) {
+            describeChildren(*child);
+        }
     }
 }
 

@@ -168,6 +168,24 @@ TEST(OptionEditOnScreen, OptionsStandBelowEachOtherAndAreReadWhole)
     EXPECT_EQ(screen[page.speed.Option(0)]->accessibleName(), "slow");
 }
 
+TEST(OptionEditOnScreen, TheGroupTellsItsStateInWords)
+{
+    EditorsPage page;
+    const Shown screen(page);
+    auto* const group = screen[page.speed.frmOptions];
+    EXPECT_EQ(group->accessibleName(), "Speed");
+    choose(screen, page.speed.Option(2));
+    EXPECT_EQ(group->accessibleName(), "Speed, modified");
+    page.speed.setCorrect(false);
+    settle();
+    EXPECT_EQ(group->accessibleName(), "Speed, modified, error");
+    EXPECT_EQ(group->toolTip(), "modified, error");
+    EXPECT_EQ(screen[page.lblSpeed]->accessibleName(), "Speed");
+    page.speed.setCorrect(true);
+    choose(screen, page.speed.Option(1));
+    EXPECT_EQ(group->accessibleName(), "Speed");
+}
+
 TEST(OptionEditOnScreen, AListThatComesLaterIsShown)
 {
     EditorsPage page;
