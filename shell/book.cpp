@@ -1,16 +1,29 @@
 #include "shell/book.h"
 
-#include "framework/documents.h"
 #include "framework/steps.h"
+#include "shell/editor_page.h"
+#include "shell/view_page.h"
 
 #include <algorithm>
 
 namespace quill::shell {
 
+namespace {
+
+std::unique_ptr<Page> makePage(platform::Widget& container, const PageDescription& description)
+{
+    if (!description.view.empty()) {
+        return std::make_unique<ViewPage>(container, description);
+    }
+    return std::make_unique<EditorPage>(container, description);
+}
+
+} // namespace
+
 Book::Book(const std::vector<PageDescription>& pages) : ViewBase({.Name = "book"})
 {
     for (const auto& description : pages) {
-        mPages.push_back(std::make_unique<Page>(*this, description));
+        mPages.push_back(makePage(*this, description));
         mPages.back()->Visible = false;
     }
 }
@@ -24,21 +37,21 @@ Page* Book::page(const std::string& tag) const
     return found != mPages.end() ? found->get() : nullptr;
 }
 
-EditorBase* Book::find(const std::string& parameter) const
+EditorCore* Book::find(const std::string& parameter) const
 {
     for (const auto& page : mPages) {
-        if (EditorBase* editor = page->find(parameter)) {
+        if (EditorCore* editor = page->find(parameter)) {
             return editor;
         }
     }
     return nullptr;
 }
 
-void Book::layOut(std::int32_t width)
+void Book::layOut(const PageSpace& space)
 {
-    mLaidOutFor = width;
+    mLaidOutFor = space;
     if (Page* page = shownPage()) {
-        page->layOut(width);
+        page->layOut(space);
         takeSize();
     }
 }
@@ -74,19 +87,19 @@ void Book::SetErrorData(const IXMLDOMNode& node)
 {
     const Steps        step{GetMessenger(), "Book SetErrorData: "};
     std::vector<Page*> concerned;
-    step([&] {
-        const auto items = documents::errorItems(node);
-        for (const auto& page : mPages) {
-            for (long place = 0; place < items.get_length(); ++place) {
-                if (page->find(documents::attributeText(items.get_item(place), "name"))) {
-                    concerned.push_back(page.get());
-                    break;
-                }
-            }
+    for (const auto& page : mPages) {
+        if (step.value(false, [&] { return page->isConcernedBy(node); })) {
+            concerned.push_back(page.get());
         }
-    });
-    if (concerned.empty() && shownPage() != nullptr) {
-        concerned.push_back(shownPage());
+    }
+    if (concerned.empty()) {
+        const auto tells = [](const auto& page) { return page->tellsAnyError(); };
+        const auto first = std::ranges::find_if(mPages, tells);
+        if (shownPage() != nullptr && shownPage()->tellsAnyError()) {
+            concerned.push_back(shownPage());
+        } else if (first != mPages.end()) {
+            concerned.push_back(first->get());
+        }
     }
     for (Page* page : concerned) {
         step([&] { page->SetErrorData(node); });
@@ -106,6 +119,13 @@ void Book::SetSelectedView(const std::string& name)
         page->Visible = page->Tag == mShown;
     }
     layOut(mLaidOutFor);
+}
+
+bool Book::LeaveSelectedView()
+{
+    Page* const page = shownPage();
+    const Steps step{GetMessenger(), "Book LeaveSelectedView: "};
+    return page == nullptr || step.value(true, [&] { return page->LeaveSelectedView(); });
 }
 
 void Book::RequestFocus()

@@ -3,7 +3,6 @@
 #include "framework/view_base.h"
 #include "shell/page.h"
 
-#include <cstdint>
 #include <memory>
 #include <string>
 #include <vector>
@@ -25,18 +24,21 @@ public:
     /// The page that is shown, nothing before the first one was.
     [[nodiscard]] Page* shownPage() const { return page(mShown); }
     /// The editor of a parameter on whatever page, nothing if there is none.
-    [[nodiscard]] EditorBase* find(const std::string& parameter) const;
+    [[nodiscard]] EditorCore* find(const std::string& parameter) const;
 
-    /// Fits the shown page to a width in twips and takes its size.
-    void layOut(std::int32_t width);
+    /// Fits the shown page to its room and takes its size.
+    void layOut(const PageSpace& space);
 
-    /// A response that names parameters goes to the pages that have them, any other to the page
-    /// that is shown: every page that takes an error tells the user.
+    /// An error goes to the pages that it is about: every page that takes one tells the user. One
+    /// that is about none goes to the page that is shown, or to the first one if that is not for
+    /// it.
     void SetErrorData(const IXMLDOMNode& node) override;
     void Localize(Translator& translator) override;
     void SetOfflineData(const IXMLDOMNode& node) override;
     void SetOnlineData(const IXMLDOMNode& node) override;
     void SetSelectedView(const std::string& name) override;
+    /// Asks the page that is shown; the others have been left.
+    bool LeaveSelectedView() override;
     void RequestFocus() override;
 
 private:
@@ -44,7 +46,7 @@ private:
 
     std::vector<std::unique_ptr<Page>> mPages;
     std::string                        mShown;
-    std::int32_t                       mLaidOutFor = 0;
+    PageSpace                          mLaidOutFor;
 };
 
 } // namespace quill::shell

@@ -135,7 +135,7 @@ bool DatafileStore::Parameter::isEdited() const
     // user has emptied.
     const bool comparesWithNothing = settled.synchronised != kInStep &&
                                      settled.synchronised != kNotRead && !settled.value.empty();
-    return edit == Edit::correct || comparesWithNothing;
+    return edit != Edit::none || comparesWithNothing;
 }
 
 void DatafileStore::Parameter::settle(const ParameterContent& content)
@@ -227,9 +227,10 @@ void DatafileStore::endLoading()
     }
 }
 
-void DatafileStore::beginResponse(const IXMLDOMNode& response)
+void DatafileStore::beginResponse(const IXMLDOMNode& response, ReadBy who)
 {
     mResponse = response;
+    mReadBy   = who;
     mReported.clear();
 }
 
@@ -241,10 +242,12 @@ void DatafileStore::endResponse()
     const std::string status = documents::responseAttribute(mResponse, "responseStatus");
     const std::string code   = documents::responseAttribute(mResponse, "errorCode");
     const auto        all    = items(mResponse);
+    bool              named  = false; // a parameter
     // What no editor shows is read all the same.
     for (const IXMLDOMNode& item : all) {
         const std::string name      = attribute(item, "name");
         Parameter*        parameter = find(name);
+        named                       = named || parameter != nullptr;
         if (!parameter || mReported.contains(name)) {
             continue;
         }
@@ -254,7 +257,7 @@ void DatafileStore::endResponse()
             setParameterState(name, "syncError");
         }
     }
-    if (status == "ok" && !all.empty() &&
+    if (status == "ok" && named && mReadBy == ReadBy::user &&
         documents::responseAttribute(mResponse, "access") == "read") {
         const std::string name = documents::responseAttribute(mResponse, "name");
         if (const IXMLDOMNode group = documents::findRequestGroup(mDocument, name)) {
@@ -327,6 +330,23 @@ void DatafileStore::setParameterState(const std::string& name, const std::string
             parameter->settle(shown);
         }
     }
+}
+
+void DatafileStore::keepSent(const IXMLDOMNode& request)
+{
+    for (const IXMLDOMNode& item : items(request)) {
+        Parameter* parameter = find(attribute(item, "name"));
+        if (parameter && parameter->edit == Parameter::Edit::none &&
+            !isSameValue(read(parameter->node), parameter->settled)) {
+            parameter->edit = Parameter::Edit::sent;
+        }
+    }
+}
+
+bool DatafileStore::hasSent() const
+{
+    return std::ranges::any_of(
+        mParameters, [](const auto& entry) { return entry.second.edit == Parameter::Edit::sent; });
 }
 
 void DatafileStore::accept(const IXMLDOMNode& request)
@@ -450,8 +470,10 @@ bool DatafileStore::hasUnsavedChanges() const
 
 std::size_t DatafileStore::editCount() const
 {
-    return static_cast<std::size_t>(std::ranges::count_if(
-        mParameters, [](const auto& entry) { return entry.second.edit != Parameter::Edit::none; }));
+    return static_cast<std::size_t>(std::ranges::count_if(mParameters, [](const auto& entry) {
+        return entry.second.edit == Parameter::Edit::correct ||
+               entry.second.edit == Parameter::Edit::error;
+    }));
 }
 
 void DatafileStore::save(const std::string& path)

@@ -19,6 +19,9 @@ struct ParameterContent {
     std::string synchronised; ///< "1" in step with the device, "2" not read, else not in step
 };
 
+/// Who wanted something to be read.
+enum class ReadBy { user, program };
+
 /// The datafile on disk and the working document that the views edit.
 ///
 /// Editors write whatever they show into the working document, also what the program made them
@@ -52,12 +55,19 @@ public:
     /// Gives the working document back the values it had.
     void endLoading();
 
-    /// A response that is about to go to the views, and has gone.
-    void beginResponse(const IXMLDOMNode& response);
+    /// A response that is about to go to the views, and has gone. The time of last read is that of
+    /// what the user wanted: a datafile does not change because the program looked.
+    void beginResponse(const IXMLDOMNode& response, ReadBy who = ReadBy::user);
     void endResponse();
 
     /// What an editor reported by `SetParameterState`; names of no parameter are ignored.
     void setParameterState(const std::string& parameter, const std::string& state);
+    /// Items of a `communicationRequest` that goes to the device. A view that writes into its nodes
+    /// without reporting a state means what it sends: it stays there until the device has answered
+    /// with what it took, also when it refuses.
+    void keepSent(const IXMLDOMNode& request);
+    /// Whether the device has not taken something of that yet.
+    [[nodiscard]] bool hasSent() const;
     /// The user accepted these items of a `communicationRequest` while offline: they are the
     /// parameters' values from now on, not in step. The views must load the document again.
     void accept(const IXMLDOMNode& request);
@@ -81,7 +91,7 @@ public:
 private:
     /// What the store knows of a parameter besides the working document.
     struct Parameter {
-        enum class Edit { none, correct, error };
+        enum class Edit { none, correct, error, sent };
 
         IXMLDOMNode node; ///< in the working document
         /// What it was before any edit: as loaded, as read, as accepted.
@@ -113,6 +123,7 @@ private:
     std::map<std::string, Parameter> mParameters;
     int                              mLoading = 0;
     IXMLDOMNode                      mResponse; ///< the one that the views are taking
+    ReadBy                           mReadBy = ReadBy::user;
     std::set<std::string>            mReported; ///< whose editors have told what they made of it
 };
 

@@ -30,6 +30,8 @@ constexpr std::array kDrawings = {
     "M 4 5 L 20 5 L 20 19 L 4 19 Z M 7.5 9 L 10 11.5 L 7.5 14 M 12 15 L 16.5 15",
     "M 3 11 L 3 21 L 12 16 Z M 21 11 L 21 21 L 12 16 Z M 12 16 L 12 9 M 7 9 L 7 6 L 9 3.5 L 15 3.5 "
     "L 17 6 L 17 9 Z",
+    "M 4 6 L 20 6 M 4 12 L 20 12 M 4 18 L 20 18 M 8 3.5 L 8 8.5 M 15.5 9.5 L 15.5 14.5 M 10 15.5 "
+    "L 10 20.5",
 };
 
 QPainterPath path(const char* drawing)

@@ -109,11 +109,24 @@ void LogPane::add(Kind kind, const QString& text)
     mLines->addTopLevelItem(item);
     item->setHidden(kind == Kind::detail && !mDetails->isChecked());
     if (mLines->topLevelItemCount() > kMostLines) {
-        delete mLines->takeTopLevelItem(0);
+        dropOldest();
     }
     if (follow) {
         mLines->scrollToBottom();
     }
+}
+
+void LogPane::dropOldest()
+{
+    // Details come by the hundred; what was told to the user outlives them.
+    for (int row = 0; row < mLines->topLevelItemCount(); ++row) {
+        if (mLines->topLevelItem(row)->data(kKind, kKindRole).toInt() ==
+            static_cast<int>(Kind::detail)) {
+            delete mLines->takeTopLevelItem(row);
+            return;
+        }
+    }
+    delete mLines->takeTopLevelItem(0);
 }
 
 QStringList LogPane::lines() const

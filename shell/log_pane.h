@@ -29,6 +29,7 @@ public:
 
 private:
     void showDetails(bool shown);
+    void dropOldest();
 
     ShellMessenger& mMessenger;
     QTreeWidget*    mLines;

@@ -28,14 +28,22 @@ int runWindow(const shell::Options& options)
 {
     constexpr std::chrono::milliseconds kDelay{150};
 
-    shell::MainWindow window;
-    window.setLanguage(options.language);
+    shell::MainWindow window(nullptr, options.folder.isEmpty()
+                                          ? shell::Folders::ofUser()
+                                          : shell::Folders::in(options.folder.toStdString()));
+    if (!options.language.empty()) {
+        window.setLanguage(options.language);
+    }
     window.messenger().link().setDelay(kDelay);
-    window.setScheme(shell::desktopScheme());
+    if (!window.chosenScheme()) {
+        window.setScheme(shell::desktopScheme());
+    }
     window.show();
     if (options.datafile.isEmpty() || !window.openDatafile(options.datafile)) {
         window.openSample();
     }
+    window.statusCycle().setInterval(options.statusCycle);
+    window.simulationClock().start();
     window.messenger().setOnline(!options.offline);
     return QApplication::exec();
 }

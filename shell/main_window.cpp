@@ -1,7 +1,10 @@
 #include "shell/main_window.h"
 
+#include "platform/grid.h"
+#include "platform/list_view.h"
 #include "qt/geometry.h"
 #include "shell/icons.h"
+#include "shell/view_page.h"
 
 #include <QAction>
 #include <QActionGroup>
@@ -17,7 +20,10 @@
 #include <QScrollBar>
 #include <QSignalBlocker>
 #include <QStyle>
+#include <QToolButton>
 #include <QTreeWidget>
+
+#include <map>
 
 namespace quill::shell {
 
@@ -28,10 +34,10 @@ constexpr QSize kFirstSize(1340, 900);
 
 } // namespace
 
-MainWindow::MainWindow(WindowDialogs* dialogs)
+MainWindow::MainWindow(WindowDialogs* dialogs, const Folders& folders)
     : mOwnDialogs(*this, mMessenger.texts()),
       mDialogs(dialogs != nullptr ? *dialogs : static_cast<WindowDialogs&>(mOwnDialogs)),
-      mMessages(mDialogs), mPages(builtInPages())
+      mMessages(mDialogs), mAllPages(builtInPages())
 {
     setMinimumSize(kLeastSize);
     resize(kFirstSize);
@@ -41,9 +47,11 @@ MainWindow::MainWindow(WindowDialogs* dialogs)
     buildToolBar();
     buildCentre();
     buildStatusLine();
-    mChangesDialog = std::make_unique<ChangesDialog>(mMessenger, this);
+    mChangesDialog  = std::make_unique<ChangesDialog>(mMessenger, this);
+    mSettingsDialog = std::make_unique<SettingsDialog>(mMessenger, this);
     connectMessenger();
     localize();
+    buildSettings(folders);
 }
 
 MainWindow::~MainWindow()
@@ -51,6 +59,7 @@ MainWindow::~MainWindow()
     mMessenger.disconnect(this);
     mMessenger.setDialogs(nullptr);
     mChangesDialog.reset();
+    mSettingsDialog.reset();
     releaseBook();
 }
 
@@ -65,18 +74,31 @@ void MainWindow::makeBook()
 {
     const std::string shown = mBook ? mBook->GetSelectedView() : std::string{};
     releaseBook();
+    mPages = pagesFor(mAllPages, mMessenger.deviceType(), mMessenger.store().document());
+    fillTree();
     mBook = std::make_unique<Book>(mPages);
     mBook->SetMessenger(&mMessenger);
     mMessenger.localize(*mBook);
     mMessenger.deliverDatafile(*mBook);
     // The value lists have come with the datafile, by their names.
     mMessenger.localize(*mBook);
+    // Views learn from the event whether there is a device; these have missed the last one.
+    if (mMessenger.isOnline()) {
+        mMessenger.ViewSetCommunicationMode.raise(mMessenger.GetCommunicationMode());
+    }
     mView = new qt::View(*mBook);
     mScroll->setWidget(mView);
     mLog->beLastInTabOrder();
-    showPage(shown.empty() ? mPages.front().tag : shown);
+    if (mBook->page(shown) != nullptr) {
+        showPage(shown);
+    } else if (!mPages.empty()) {
+        showPage(mPages.front().tag);
+    }
     nameEditors();
     fitBook();
+    const Page* const status = statusPage();
+    mCycle.setRequests(status != nullptr ? status->description().cycle : std::string{},
+                       status != nullptr ? status->groups() : std::vector<std::string>{});
     showState();
 }
 
@@ -95,9 +117,10 @@ void MainWindow::fitBook()
     if (!mBook) {
         return;
     }
-    // Room for the bar is always kept, or its coming and going would change what it depends on.
     const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent);
-    mBook->layOut(qt::toTwips(mScroll->width() - bar));
+    mBook->layOut({.width  = qt::toTwips(mScroll->width()),
+                   .height = qt::toTwips(mScroll->height()),
+                   .bar    = qt::toTwips(bar)});
     mView->flush();
 }
 
@@ -110,12 +133,26 @@ void MainWindow::showPage(const std::string& tag)
 
 bool MainWindow::turnTo(const std::string& tag)
 {
-    if (!mBook || mBook->page(tag) == nullptr || !mBook->LeaveSelectedView()) {
+    if (!mBook || mBook->page(tag) == nullptr) {
         return false;
     }
-    mBook->SetSelectedView(tag);
+    // Who chooses the page that he is on does not leave it.
+    if (mBook->GetSelectedView() != tag) {
+        if (!mBook->LeaveSelectedView()) {
+            markInTree(mBook->GetSelectedView());
+            return false;
+        }
+        mBook->SetSelectedView(tag);
+    }
     mView->flush();
     mScroll->verticalScrollBar()->setValue(0);
+    markInTree(tag);
+    showStateSoon();
+    return true;
+}
+
+void MainWindow::markInTree(const std::string& tag)
+{
     for (QTreeWidgetItemIterator item(mTree); *item != nullptr; ++item) {
         if ((*item)->data(0, Qt::UserRole).toString().toStdString() == tag) {
             const QSignalBlocker quiet(mTree);
@@ -123,7 +160,23 @@ bool MainWindow::turnTo(const std::string& tag)
             mTitle->setText((*item)->text(0));
         }
     }
-    return true;
+}
+
+void MainWindow::fillTree()
+{
+    const QSignalBlocker quiet(mTree);
+    mTree->clear();
+    std::map<std::string, QTreeWidgetItem*> items;
+    for (const auto& page : mPages) {
+        const auto  parent = items.find(page.parent);
+        auto* const item   = parent != items.end() ? new QTreeWidgetItem(parent->second)
+                                                   : new QTreeWidgetItem(mTree);
+        item->setData(0, Qt::UserRole, QString::fromStdString(page.tag));
+        item->setSizeHint(0, QSize(0, 30));
+        item->setText(0, mMessenger.texts().text(page.title.c_str()));
+        items[page.tag] = item;
+    }
+    mTree->expandAll();
 }
 
 bool MainWindow::readPage()
@@ -210,7 +263,9 @@ void MainWindow::localize()
         mTitle->setText(item->text(0));
     }
     mLog->localize();
+    mSimulation->localize();
     mChangesDialog->localize();
+    mSettingsDialog->localize();
     if (mBook) {
         mMessenger.localize(*mBook);
         nameEditors();
@@ -236,6 +291,15 @@ void MainWindow::nameEditors()
                     QString::fromStdString(page->labelOf(row.parameter)->Caption));
             }
         }
+        const auto* const filled = dynamic_cast<const ViewPage*>(page.get());
+        for (platform::Widget* widget :
+             filled != nullptr ? filled->view().Widgets() : platform::WidgetList{}) {
+            // What fills the view is called as the page is.
+            if (dynamic_cast<platform::Grid*>(widget) ||
+                dynamic_cast<platform::ListView*>(widget)) {
+                mView->setAccessibleLabel(*widget, texts.text(page->description().title.c_str()));
+            }
+        }
     }
 }
 
@@ -244,7 +308,7 @@ void MainWindow::nameEditors()
 QString MainWindow::datafileName()
 {
     const auto& path = mMessenger.store().path();
-    return path.empty() ? mMessenger.texts().text("shell_sampleName")
+    return path.empty() ? mMessenger.texts().text("shell_sampleName").arg(deviceName())
                         : QFileInfo(QString::fromStdString(path)).fileName();
 }
 
@@ -275,8 +339,12 @@ void MainWindow::showState()
     command("online")->setIcon(icon(online ? Symbol::disconnect : Symbol::connect));
     command("online")->setText(texts.text(online ? "shell_disconnect" : "shell_connect"));
     command("online")->setIconText(command("online")->text().remove(u'&'));
-    command("readPage")->setEnabled(open && online && !busy);
-    command("readAll")->setEnabled(open && online && !busy);
+    const Page* const page = mBook ? mBook->shownPage() : nullptr;
+    // What comes in while a view is configured would take the user's work away.
+    const bool mayRead = open && online && !busy && !mCycle.isConfiguring();
+    command("readPage")->setEnabled(mayRead && page != nullptr && !page->groups().empty());
+    command("readAll")->setEnabled(mayRead);
+    command("restartDevice")->setEnabled(open);
     command("save")->setEnabled(open);
     command("saveAs")->setEnabled(open);
     QAction* const changes = command("changes");
@@ -293,24 +361,10 @@ void MainWindow::showState()
     mEdits->setText(texts.text("shell_editCount").arg(edits));
     mBusy->setVisible(busy);
     mBusy->setToolTip(texts.text("shell_transferRuns"));
+    showStatus();
     setWindowTitle(
         texts.text(open && store.hasUnsavedChanges() ? "shell_titleModified" : "shell_title")
             .arg(open ? datafileName() : QString{}));
-}
-
-void MainWindow::chooseUnits(const std::string& system)
-{
-    auto& units = mMessenger.units();
-    for (auto quantities = units.GetQuantities(); auto quantity = quantities.nextNode();) {
-        const std::string name      = quantity.get_text();
-        const auto        described = units.GetUnitSystemData(name);
-        const auto unit = described ? units.GetUnitOfSystem(*described, system) : std::nullopt;
-        if (unit) {
-            units.SetDisplayUnit(name, *unit);
-        }
-    }
-    mMessenger.informUnitChanges();
-    fitBook();
 }
 
 void MainWindow::showAbout()

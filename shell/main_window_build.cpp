@@ -1,10 +1,14 @@
+#include "shell/device_actions.h"
 #include "shell/icons.h"
+#include "shell/languages.h"
 #include "shell/main_window.h"
+#include "shell/status_sign.h"
 
 #include <QAction>
 #include <QActionGroup>
 #include <QApplication>
 #include <QComboBox>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QKeySequence>
 #include <QLabel>
@@ -18,15 +22,9 @@
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
-#include <map>
-
 namespace quill::shell {
 
 namespace {
-
-/// Languages by the name that the controls know, each written in itself.
-constexpr std::pair<const char*, const char*> kLanguages[] = {
-    {"English", "English"}, {"German", "Deutsch"}, {"Finnish", "Suomi"}};
 
 constexpr int kTreeWidth = 210;
 constexpr int kMargin    = 16;
@@ -68,8 +66,11 @@ void MainWindow::buildActions()
             openDatafile(*path);
         }
     });
-    QAction* const sample = addCommand("openSample", "shell_openSample", "shell_openSampleTip");
-    connect(sample, &QAction::triggered, this, &MainWindow::openSample);
+    for (const Sample& sample : samples()) {
+        QAction* const opening = addCommand((std::string("open") + sample.type).c_str(),
+                                            sample.title, "shell_openSampleTip");
+        connect(opening, &QAction::triggered, this, [this, &sample] { openSample(sample); });
+    }
     QAction* const saving = addCommand("save", "shell_save", "shell_saveTip");
     saving->setIcon(icon(Symbol::save));
     saving->setShortcut(QKeySequence::Save);
@@ -84,8 +85,7 @@ void MainWindow::buildActions()
 
     QAction* const online = addCommand("online", "shell_connect", "shell_connectTip");
     online->setShortcut(Qt::CTRL | Qt::Key_L);
-    connect(online, &QAction::triggered, this,
-            [this] { mMessenger.setOnline(!mMessenger.isOnline()); });
+    connect(online, &QAction::triggered, this, &MainWindow::goOnlineOrOffline);
     QAction* const read = addCommand("readPage", "shell_readPage", "shell_readPageTip");
     read->setIcon(icon(Symbol::read));
     read->setShortcut(QKeySequence::Refresh);
@@ -97,21 +97,40 @@ void MainWindow::buildActions()
     changes->setShortcut(Qt::CTRL | Qt::Key_D);
     connect(changes, &QAction::triggered, this, [this] { mChangesDialog->ask(); });
 
+    QAction* const status = addCommand("status", "shell_showStatus", "shell_showStatusTip");
+    status->setShortcut(Qt::CTRL | Qt::Key_T);
+    connect(status, &QAction::triggered, this, &MainWindow::showStatusPage);
+    QAction* const clear =
+        addCommand("clearConfigurationChanged", "shell_clearChanged", "shell_clearChangedTip");
+    connect(clear, &QAction::triggered, this, [this] { mMessenger.clearConfigurationChanged(); });
+
+    QAction* const restart =
+        addCommand("restartDevice", "shell_restartDevice", "shell_restartDeviceTip");
+    connect(restart, &QAction::triggered, this, [this] {
+        restartDevice(mMessenger.device());
+        mSimulation->refresh();
+    });
+
     QAction* const dark = addCommand("dark", "shell_dark", "shell_darkTip");
     dark->setCheckable(true);
     connect(dark, &QAction::triggered, this,
-            [this](bool on) { setScheme(on ? ColorScheme::dark : ColorScheme::light); });
+            [this](bool on) { chooseScheme(on ? ColorScheme::dark : ColorScheme::light); });
+    QAction* const settings = addCommand("settings", "shell_settings", "shell_settingsTip");
+    settings->setIcon(icon(Symbol::settings));
+    settings->setShortcut(Qt::CTRL | Qt::Key_Comma);
+    settings->setMenuRole(QAction::PreferencesRole);
+    connect(settings, &QAction::triggered, this, &MainWindow::showSettings);
 
     QAction* const about = addCommand("about", "shell_about", "shell_about");
     about->setMenuRole(QAction::AboutRole);
     connect(about, &QAction::triggered, this, &MainWindow::showAbout);
 
     mUnits = new QActionGroup(this);
+    mUnits->setExclusionPolicy(QActionGroup::ExclusionPolicy::ExclusiveOptional);
     for (const auto& system : HartUnitConverter::systems()) {
         QAction* const action = mUnits->addAction(QString{});
         action->setCheckable(true);
         action->setData(QString::fromStdString(system));
-        action->setChecked(system == "metric");
         connect(action, &QAction::triggered, this, [this, system] { chooseUnits(system); });
     }
 }
@@ -131,13 +150,24 @@ void MainWindow::buildMenus()
         mMenus.push_back(result);
         return result;
     };
-    menu("shell_menuFile", {"open", "openSample", "-", "save", "saveAs", "-", "quit"});
-    menu("shell_menuDevice", {"online", "-", "readPage", "readAll", "-", "changes"});
-    QMenu* const look  = menu("shell_menuView", {"dark"});
-    QMenu* const units = look->addMenu(QString{});
+    QMenu* const file    = menu("shell_menuFile", {"open", "-", "save", "saveAs", "-", "quit"});
+    auto* const  bundled = new QMenu(this);
+    bundled->setObjectName("shell_openSample");
+    for (const Sample& sample : samples()) {
+        bundled->addAction(command((std::string("open") + sample.type).c_str()));
+    }
+    file->insertMenu(file->actions().at(1), bundled);
+    mMenus.push_back(bundled);
+    menu("shell_menuDevice", {"online", "-", "readPage", "readAll", "-", "changes", "-", "status",
+                              "clearConfigurationChanged", "-", "restartDevice"});
+    mViewMenu = menu("shell_menuView", {"dark"});
+    buildClassifications(*mViewMenu);
+    QMenu* const units = mViewMenu->addMenu(QString{});
     units->setObjectName("shell_menuUnits");
     units->addActions(mUnits->actions());
     mMenus.push_back(units);
+    mViewMenu->addSeparator();
+    mViewMenu->addAction(command("settings"));
     menu("shell_menuHelp", {"about"});
 }
 
@@ -148,7 +178,7 @@ void MainWindow::buildToolBar()
     bar->setMovable(false);
     bar->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
     bar->toggleViewAction()->setVisible(false);
-    for (const char* name : {"online", "readPage", "changes", "", "open", "save"}) {
+    for (const char* name : {"online", "readPage", "changes", "", "open", "save", "settings"}) {
         if (*name == '\0') {
             bar->addSeparator();
         } else {
@@ -193,16 +223,6 @@ void MainWindow::buildCentre()
     mTree->setIndentation(14);
     mTree->setAllColumnsShowFocus(true);
     mTree->header()->hide();
-    std::map<std::string, QTreeWidgetItem*> items;
-    for (const auto& page : mPages) {
-        const auto  parent = items.find(page.parent);
-        auto* const item   = parent != items.end() ? new QTreeWidgetItem(parent->second)
-                                                   : new QTreeWidgetItem(mTree);
-        item->setData(0, Qt::UserRole, QString::fromStdString(page.tag));
-        item->setSizeHint(0, QSize(0, 30));
-        items[page.tag] = item;
-    }
-    mTree->expandAll();
     connect(mTree, &QTreeWidget::currentItemChanged, this, [this](QTreeWidgetItem* item) {
         if (item == nullptr) {
             return;
@@ -225,7 +245,9 @@ void MainWindow::buildCentre()
     QFont font = mTitle->font();
     font.setPointSizeF(font.pointSizeF() * 1.5);
     mTitle->setFont(font);
-    mTitle->setContentsMargins(kMargin, kMargin, kMargin, 0);
+    auto* head = new QHBoxLayout;
+    head->setContentsMargins(kMargin, kMargin, kMargin, 0);
+    head->addWidget(mTitle, 1);
     mScroll = new QScrollArea;
     mScroll->setFrameShape(QFrame::NoFrame);
     mScroll->setFocusPolicy(Qt::NoFocus); // it could not show it
@@ -235,8 +257,14 @@ void MainWindow::buildCentre()
     auto* column = new QVBoxLayout(page);
     column->setContentsMargins(0, 0, 0, 0);
     column->setSpacing(4);
-    column->addWidget(mTitle);
+    column->addLayout(head);
     column->addWidget(mScroll, 1);
+    mStatus = new StatusSign;
+    connect(mStatus, &QToolButton::clicked, this, &MainWindow::showStatusPage);
+    // The title keeps its place whether there is a status or not.
+    head->addSpacing(kMargin);
+    head->addWidget(mStatus);
+    head->addStrut(mStatus->sizeHint().height());
 
     auto* splitter = new QSplitter;
     splitter->setChildrenCollapsible(false);
@@ -253,7 +281,24 @@ void MainWindow::buildCentre()
     QAction* const shown = mLog->toggleViewAction();
     shown->setShortcut(Qt::CTRL | Qt::Key_G);
     shown->setIcon(icon(Symbol::log));
-    mMenus.at(2)->insertAction(command("dark"), shown);
+    QAction* const dark = command("dark");
+    mViewMenu->insertAction(dark, shown);
+
+    mSimulation = new SimulationPane(mMessenger, this);
+    addDockWidget(Qt::RightDockWidgetArea, mSimulation);
+    mSimulation->hide();
+    QAction* const simulated = mSimulation->toggleViewAction();
+    simulated->setObjectName("simulation");
+    addAction(simulated);
+    simulated->setShortcut(Qt::CTRL | Qt::Key_M);
+    simulated->setIcon(icon(Symbol::valve));
+    mViewMenu->insertAction(dark, simulated);
+    mViewMenu->insertSeparator(dark);
+    connect(&mClock, &SimulationClock::ticked, mSimulation, [this] {
+        if (mSimulation->isVisible()) {
+            mSimulation->refresh();
+        }
+    });
     setWindowIcon(icon(Symbol::valve));
 }
 
@@ -274,6 +319,7 @@ void MainWindow::buildStatusLine()
         label->setContentsMargins(8, 2, 8, 2);
         statusBar()->addWidget(label);
     }
+    buildStatusSigns();
     statusBar()->addPermanentWidget(mBusy);
     statusBar()->addPermanentWidget(mEdits);
     mEdits->setContentsMargins(8, 2, 8, 2);
@@ -300,15 +346,19 @@ void MainWindow::connectMessenger()
     connect(&mMessenger, &ShellMessenger::errorDataArrived, this,
             [this](const IXMLDOMNode& response) {
                 if (mBook) {
-                    mMessages.begin();
-                    mBook->SetErrorData(response);
-                    mMessages.end();
-                    showStateSoon();
+                    takeError(response);
                 }
             });
+    connectStatus();
+    connect(&mMessenger, &ShellMessenger::hostDocumentKept, this,
+            [this] { tell(mMessenger.texts().text("shell_documentKept")); });
+    connect(&mMessenger, &ShellMessenger::addressChanged, this, [this](int address) {
+        tell(mMessenger.texts().text("shell_addressChanged").arg(address));
+    });
     connect(&mMessenger, &ShellMessenger::languageChanged, this, &MainWindow::localize);
-    for (auto signal : {&ShellMessenger::communicationModeChanged,
-                        &ShellMessenger::userLevelChanged, &ShellMessenger::downloadPhaseChanged}) {
+    for (auto signal :
+         {&ShellMessenger::communicationModeChanged, &ShellMessenger::userLevelChanged,
+          &ShellMessenger::downloadPhaseChanged, &ShellMessenger::dialogNotified}) {
         connect(&mMessenger, signal, this, &MainWindow::showStateSoon);
     }
     connect(&mMessenger, &ShellMessenger::parameterStateChanged, this, &MainWindow::showStateSoon);

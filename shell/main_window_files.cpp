@@ -1,8 +1,41 @@
 #include "shell/main_window.h"
 
 #include <QCloseEvent>
+#include <QEventLoop>
+#include <QStatusBar>
+#include <QTimer>
 
 namespace quill::shell {
+
+namespace {
+
+/// For a device that does not answer any more.
+constexpr std::chrono::milliseconds kMostPatience{3000};
+
+} // namespace
+
+bool MainWindow::mayLeavePage()
+{
+    const std::size_t before = mMessenger.outstanding();
+    if (mBook && !mBook->LeaveSelectedView()) {
+        return false;
+    }
+    if (mMessenger.outstanding() > before) {
+        // A device that was left with a test current would keep it.
+        QEventLoop loop;
+        connect(&mMessenger.link(), &DeviceLink::busyChanged, &loop, &QEventLoop::quit);
+        QTimer::singleShot(kMostPatience, &loop, &QEventLoop::quit);
+        loop.exec(QEventLoop::ExcludeUserInputEvents);
+    }
+    return true;
+}
+
+void MainWindow::goOnlineOrOffline()
+{
+    if (!mMessenger.isOnline() || mayLeavePage()) {
+        mMessenger.setOnline(!mMessenger.isOnline());
+    }
+}
 
 bool MainWindow::mayLoseChanges()
 {
@@ -19,6 +52,13 @@ bool MainWindow::mayLoseChanges()
     return false;
 }
 
+void MainWindow::tell(const QString& text)
+{
+    constexpr int kMilliseconds = 4000;
+    mLog->add(LogPane::Kind::message, text);
+    statusBar()->showMessage(text, kMilliseconds);
+}
+
 void MainWindow::tellFailure(const platform::Failure& failure)
 {
     mMessenger.ShowMessage("error", failure.description());
@@ -26,7 +66,7 @@ void MainWindow::tellFailure(const platform::Failure& failure)
 
 bool MainWindow::openDatafile(const QString& path)
 {
-    if (!mayLoseChanges()) {
+    if (!mayLeavePage() || !mayLoseChanges()) {
         return false;
     }
     try {
@@ -39,10 +79,10 @@ bool MainWindow::openDatafile(const QString& path)
     return true;
 }
 
-void MainWindow::openSample()
+void MainWindow::openSample(const Sample& sample)
 {
-    if (mayLoseChanges()) {
-        mMessenger.openSample();
+    if (mayLeavePage() && mayLoseChanges()) {
+        mMessenger.openSample(sample);
     }
 }
 
@@ -76,7 +116,7 @@ bool MainWindow::saveAs(const QString& path)
 
 void MainWindow::closeEvent(QCloseEvent* event)
 {
-    if (mayLoseChanges()) {
+    if (mayLeavePage() && mayLoseChanges()) {
         event->accept();
     } else {
         event->ignore();

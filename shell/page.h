@@ -1,70 +1,66 @@
 #pragma once
 
-#include "editors/CtrDateLabel.h"
-#include "editors/editor_base.h"
+#include "editors/editor_core.h"
 #include "framework/view_base.h"
 #include "platform/buttons.h"
 #include "platform/label.h"
 #include "shell/page_description.h"
 
 #include <cstdint>
-#include <memory>
 #include <string>
 #include <vector>
 
 namespace quill::shell {
 
-/// A page of editors, built from its description. Each editor stands in a frame of its own whose
-/// `Tag` is the parameter's name: that is the name under which the editor reports its states.
+/// The room for a page, in twips.
+struct PageSpace {
+    std::int32_t width  = 0;
+    std::int32_t height = 0;
+    std::int32_t bar    = 0; ///< what a scroll bar takes of the width or the height
+};
+
+/// One page of the book. There are two kinds: a page of editors that the shell lays out, and a page
+/// that holds one view of the library.
 class Page : public ViewBase {
 public:
-    Page(platform::Widget& container, const PageDescription& description);
-    ~Page() override;
-
-    [[nodiscard]] const char*            TypeName() const override { return "Page"; }
     [[nodiscard]] const PageDescription& description() const { return mDescription; }
 
     /// The editor of a parameter, nothing if the page has none.
-    [[nodiscard]] EditorBase* find(const std::string& parameter) const;
+    [[nodiscard]] virtual EditorCore* find(const std::string&) const { return nullptr; }
     /// The label in front of an editor.
-    [[nodiscard]] platform::Label* labelOf(const std::string& parameter) const;
+    [[nodiscard]] virtual platform::Label* labelOf(const std::string&) const { return nullptr; }
     /// The button that reads a request group, nothing for a group without one.
-    [[nodiscard]] platform::CommandButton* readButton(const std::string& group) const;
-    /// The request groups that the parameters of the page belong to, in the order of the page.
-    /// Known once the datafile was delivered.
-    [[nodiscard]] std::vector<std::string> groups() const;
+    [[nodiscard]] virtual platform::CommandButton* readButton(const std::string&) const
+    {
+        return nullptr;
+    }
+    /// What the device is asked for when the page is read: names of requests, in the order of the
+    /// page. Known once the datafile was delivered.
+    [[nodiscard]] virtual std::vector<std::string> groups() const = 0;
     /// Whether reading this group, or any for the empty name, would replace edits of the page.
-    [[nodiscard]] bool hasEdits(const std::string& group = {}) const;
+    [[nodiscard]] virtual bool hasEdits(const std::string&) const { return false; }
+    [[nodiscard]] bool         hasEdits() const { return hasEdits({}); }
+    /// Whether an error response is about something that the page shows.
+    [[nodiscard]] virtual bool isConcernedBy(const IXMLDOMNode& errorResponse) const = 0;
+    /// Whether the page tells the user of an error that concerns no page.
+    [[nodiscard]] virtual bool tellsAnyError() const { return true; }
 
-    /// Lays the sections out side by side as far as `width` (twips) allows, and takes the size that
-    /// comes of it. Texts decide what a section needs, so this follows every change of them.
-    void layOut(std::int32_t width);
+    /// Takes its place and the size that comes of it: at least what its contents need.
+    virtual void layOut(const PageSpace& space) = 0;
 
-    void SetMessenger(Messenger* messenger) override;
-    void Localize(Translator& translator) override;
-    void SetOfflineData(const IXMLDOMNode& node) override;
-    /// A page has no sub-pages: it is the one that it shows.
+    /// A page is the one that it shows.
     void        SetSelectedView(const std::string&) override {}
     std::string GetSelectedView() override { return Tag; }
-    void        RequestFocus() override;
+
+protected:
+    Page(platform::Widget& container, const PageDescription& description)
+        : ViewBase(container, {.Name = description.tag, .Tag = description.tag}),
+          mDescription(description)
+    {
+    }
 
 private:
-    struct Row;
-    struct Section;
-
-    void                       addSection(const PageSection& section);
-    void                       addRow(Section& section, const PageRow& row);
-    void                       addReading(Section& section);
-    [[nodiscard]] Row*         row(const std::string& parameter) const;
-    [[nodiscard]] std::int32_t labelWidth() const;
-    /// Places what lies in the section and answers the width that it needs.
-    static std::int32_t fill(Section& section, std::int32_t labelWidth);
-    static void         setMode(Section& section, std::int32_t mode);
-
-    PageDescription                       mDescription;
-    std::vector<std::unique_ptr<Section>> mSections;
-    std::int32_t                          mLaidOutFor = 0;
-    platform::Subscription                mOnMode;
+    PageDescription mDescription;
 };
 
 } // namespace quill::shell

@@ -1,8 +1,10 @@
 #include "shell/page_description.h"
 
+#include "framework/documents.h"
 #include "platform/failure.h"
+#include "shell/samples.h"
+#include "shell/view_factory.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -11,21 +13,15 @@
 #include <array>
 #include <utility>
 
-// Resources of a static library are linked only where somebody asks for them.
-static void initPages()
-{
-    Q_INIT_RESOURCE(quill_shell_data);
-}
-
 namespace quill::shell {
 
 namespace {
 
 constexpr std::array kKinds = {
-    std::pair{"text", PageRow::Kind::text},
-    std::pair{"combo", PageRow::Kind::combo},
-    std::pair{"date", PageRow::Kind::date},
-    std::pair{"time", PageRow::Kind::time},
+    std::pair{"text", PageRow::Kind::text},         std::pair{"combo", PageRow::Kind::combo},
+    std::pair{"date", PageRow::Kind::date},         std::pair{"time", PageRow::Kind::time},
+    std::pair{"option", PageRow::Kind::option},     std::pair{"check", PageRow::Kind::check},
+    std::pair{"duration", PageRow::Kind::duration},
 };
 
 [[noreturn]] void refuse(const std::string& what)
@@ -36,6 +32,15 @@ constexpr std::array kKinds = {
 std::string text(const QJsonObject& object, const char* name)
 {
     return object[QLatin1String(name)].toString().toStdString();
+}
+
+std::vector<std::string> list(const QJsonObject& object, const char* name)
+{
+    std::vector<std::string> texts;
+    for (const auto& entry : object[QLatin1String(name)].toArray()) {
+        texts.push_back(entry.toString().toStdString());
+    }
+    return texts;
 }
 
 PageRow readRow(const QJsonObject& row, const std::string& page)
@@ -59,12 +64,24 @@ PageSection readSection(const QJsonObject& object, const std::string& page)
 
 PageDescription readPage(const QJsonObject& object)
 {
-    PageDescription page{text(object, "tag"), text(object, "parent"), text(object, "title"), {}};
+    PageDescription page{text(object, "tag"), text(object, "parent"), text(object, "title")};
     if (page.tag.empty()) {
         refuse("a page has no tag");
     }
     for (const auto& section : object[QLatin1String("sections")].toArray()) {
         page.sections.push_back(readSection(section.toObject(), page.tag));
+    }
+    page.view    = text(object, "view");
+    page.viewTag = text(object, "viewTag");
+    page.cycle   = text(object, "cycle");
+    page.speaks  = object[QLatin1String("speaks")].toBool(true);
+    page.devices = list(object, "devices");
+    page.read    = list(object, "read");
+    if (!page.view.empty() && !page.sections.empty()) {
+        refuse("page \"" + page.tag + "\" has sections and a view");
+    }
+    if (!page.view.empty() && findView(page.view) == nullptr) {
+        refuse("page \"" + page.tag + "\" names no view that there is: " + page.view);
     }
     return page;
 }
@@ -93,14 +110,35 @@ std::vector<PageDescription> readPages(const QByteArray& json)
     return pages;
 }
 
+std::vector<PageDescription> pagesFor(const std::vector<PageDescription>& pages,
+                                      const std::string& deviceType, const IXMLDOMNode& datafile)
+{
+    std::vector<PageDescription> result;
+    for (PageDescription page : pages) {
+        if (!page.devices.empty() &&
+            std::ranges::find(page.devices, deviceType) == page.devices.end()) {
+            continue;
+        }
+        for (PageSection& section : page.sections) {
+            std::erase_if(section.rows, [&](const PageRow& row) {
+                return !documents::findParameter(datafile, row.parameter);
+            });
+        }
+        std::erase_if(page.sections,
+                      [](const PageSection& section) { return section.rows.empty(); });
+        std::erase_if(page.read, [&](const std::string& group) {
+            return !documents::findRequestGroup(datafile, group);
+        });
+        if (!page.sections.empty() || !page.view.empty()) {
+            result.push_back(std::move(page));
+        }
+    }
+    return result;
+}
+
 std::vector<PageDescription> builtInPages()
 {
-    initPages();
-    QFile file{QStringLiteral(":/quill/data/pages.json")};
-    if (!file.open(QIODevice::ReadOnly)) {
-        refuse(file.errorString().toStdString());
-    }
-    return readPages(file.readAll());
+    return readPages(QByteArray::fromStdString(sampleFile("pages.json")));
 }
 
 } // namespace quill::shell

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "framework/host_contract.h"
+
 #include <QByteArray>
 
 #include <string>
@@ -9,7 +11,7 @@ namespace quill::shell {
 
 /// One line of a page: a label and the editor of a parameter.
 struct PageRow {
-    enum class Kind { text, combo, date, time };
+    enum class Kind { text, combo, date, time, option, check, duration };
     Kind        kind = Kind::text;
     std::string parameter;
 };
@@ -22,12 +24,22 @@ struct PageSection {
     std::vector<PageRow> rows;
 };
 
-/// A page as the data describe it.
+/// A page as the data describe it: sections with editors, or one view of the library.
 struct PageDescription {
     std::string              tag;    ///< its name among the pages
     std::string              parent; ///< the page below which the tree shows it, empty for the top
     std::string              title;  ///< translation key
-    std::vector<PageSection> sections;
+    std::vector<std::string> devices  = {}; ///< types of device that have this page, empty for any
+    std::vector<PageSection> sections = {};
+
+    std::string view              = {}; ///< class of the view, empty for a page of editors
+    std::string viewTag           = {}; ///< `Tag` of the view, part of the names of its responses
+    std::vector<std::string> read = {}; ///< named requests that read what the view shows
+    /// The one of them that is sent again and again, for what changes by itself; empty for none.
+    std::string cycle = {};
+    /// Whether what the view says of the device as a whole counts: its combined status and the
+    /// classification that it wants. Of two views that show the status one does.
+    bool speaks = true;
 };
 
 /// Reads page descriptions out of JSON:
@@ -36,9 +48,22 @@ struct PageDescription {
 ///                 "sections": [{"title": "shell_sectionTuning", "group": "tuning",
 ///                               "rows": [{"text": "integralTime"}, {"combo": "tuningSet"}]}]}]}
 ///
-/// A description that is no JSON, has no pages, names a kind that does not exist, or uses a tag
-/// twice is a `Failure` that says where.
+/// and, for a page that a view of the library fills:
+///
+///     {"tag": "status", "title": "shell_pageStatus", "devices": ["VX4400H"],
+///      "view": "CtrStatus", "viewTag": "deviceStatus",
+///      "read": ["deviceStatusMasks", "deviceStatus"], "cycle": "deviceStatus"}
+///
+/// A description that is no JSON, has no pages, names a kind or a view that does not exist, is of
+/// both kinds, or uses a tag twice is a `Failure` that says where.
 [[nodiscard]] std::vector<PageDescription> readPages(const QByteArray& json);
+
+/// The pages that a device has: those of its type, with the rows whose parameters stand in its
+/// datafile, and the requests whose groups do. Sections and pages that nothing remains of are left
+/// out.
+[[nodiscard]] std::vector<PageDescription> pagesFor(const std::vector<PageDescription>& pages,
+                                                    const std::string&                  deviceType,
+                                                    const IXMLDOMNode&                  datafile);
 
 /// The pages that are part of the program.
 [[nodiscard]] std::vector<PageDescription> builtInPages();

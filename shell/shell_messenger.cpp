@@ -1,32 +1,32 @@
 #include "shell/shell_messenger.h"
 
 #include "framework/documents.h"
+#include "framework/values.h"
 #include "platform/failure.h"
+#include "platform/toolkit.h"
+#include "records/event_log_times.h"
+#include "shell/device_build.h"
+#include "shell/install_folder.h"
 
-#include <QCoreApplication>
-#include <QFile>
 #include <QStandardPaths>
+#include <QTimer>
 
-// Resources of a static library are linked only where somebody asks for them.
-static void initData()
-{
-    Q_INIT_RESOURCE(quill_shell_data);
-}
+#include <algorithm>
+#include <array>
+#include <string_view>
 
 namespace quill::shell {
 
 namespace {
 
-constexpr const char* kSampleType = "VX4400H";
+constexpr const char* kMasksRequest = "deviceStatusMasks";
+constexpr const char* kAddressGroup = "hartAddress";
+constexpr const char* kAddress      = "pollingAddress";
+constexpr const char* kClearRequest = "deviceStatusClearConfigurationChanged";
+/// Requests that are answered beside the transfers.
+constexpr std::array<std::string_view, 2> kStatusRequests = {"deviceStatus", kMasksRequest};
 
-std::string resource(const char* name)
-{
-    QFile file{QStringLiteral(":/quill/data/") + name};
-    if (!file.open(QIODevice::ReadOnly)) {
-        throw platform::failure(platform::kFileNotFound);
-    }
-    return file.readAll().toStdString();
-}
+constexpr std::int16_t kDeviceLevel = 1; ///< of a combined status
 
 QString qString(const std::string& text)
 {
@@ -50,30 +50,51 @@ private:
     DatafileStore& mStore;
 };
 
-std::string readRequest(const std::string& group)
+std::string emptyRequest(const std::string& name, const std::string& access)
 {
     const IXMLDOMDocument document = documents::openEmptyRequest();
     const IXMLDOMNode     request  = document.createElement("communicationRequest");
-    documents::writeAttribute(request, "name", group);
-    documents::writeAttribute(request, "access", "read");
+    documents::writeAttribute(request, "name", name);
+    documents::writeAttribute(request, "access", access);
     document.get_documentElement().appendChild(request);
     return document.get_xml();
 }
 
 } // namespace
 
-ShellMessenger::ShellMessenger(QObject* parent) : QObject(parent)
+ShellMessenger::ShellMessenger(QObject* parent)
+    : QObject(parent),
+      mUserAddresses(mAddresses,
+                     {.isOnline = [this] { return mOnline; },
+                      .storedAddress =
+                          [this] {
+                              const auto parameter =
+                                  documents::findParameter(mStore.document(), kAddress);
+                              return parameter
+                                         ? std::optional{values::toInt16(values::parseDocument(
+                                               documents::attributeText(parameter, "value")))}
+                                         : std::nullopt;
+                          },
+                      .tell    = [this](const std::string& key) { ShowMessage("error", key); },
+                      .written = [this](std::uint8_t address) { takeNewAddress(address); }})
 {
-    initData();
     connect(&mLink, &DeviceLink::responseArrived, this, &ShellMessenger::takeResponse);
+    connect(&mBeside, &DeviceLink::responseArrived, this, &ShellMessenger::takeResponseBeside);
     connect(&mLink, &DeviceLink::busyChanged, this, &ShellMessenger::raiseMode);
 }
 
 ShellMessenger::~ShellMessenger() = default;
 
-void ShellMessenger::openSample()
+void ShellMessenger::setFolder(const std::string& folder)
 {
-    mStore.loadBytes(resource("vx4400h.xml"));
+    mFolder      = folder;
+    mIsInstalled = false;
+    mHostDocuments.setFolder(folder);
+}
+
+void ShellMessenger::openSample(const Sample& sample)
+{
+    mStore.loadBytes(sampleFile(sample.datafile));
     connectDevice();
 }
 
@@ -85,15 +106,21 @@ void ShellMessenger::openDatafile(const std::string& path)
 
 void ShellMessenger::connectDevice()
 {
-    mLink.cancel();
-    mChangeLabels          = {};
+    forgetRequests();
+    mChangeLabels = {};
+    mFixedClassification.reset();
     const IXMLDOMNode info = mStore.document().selectSingleNode("//typeInfo:internalInfo/@name");
     const std::string type = info ? info.get_text() : std::string{};
     if (type.empty() || type != mDeviceType) {
-        mDevice     = SimulatedDevice{mStore.document(),
-                                  type == kSampleType ? resource("vx4400h_device.xml") : ""};
+        mDevice     = buildDevice(mStore.document());
         mDeviceType = type;
     }
+    const Sample* const sample = findSample(type);
+    mTypeInfo =
+        sample != nullptr ? documents::openText(sampleFile(sample->typeInfo)) : IXMLDOMDocument{};
+    // What the views of the former device have told means nothing for this one.
+    SetCombinedStatus(kDeviceLevel, {});
+    SetConfigurationChanged({});
     emit datafileReplaced();
 }
 
@@ -103,9 +130,10 @@ void ShellMessenger::setOnline(bool online)
         return;
     }
     mOnline = online;
-    if (!online && mLink.isBusy()) {
-        mLink.cancel(); // which tells the mode as well
-    } else {
+    // What is cancelled tells the mode as well.
+    const bool isTold = mLink.isBusy();
+    forgetRequests();
+    if (!isTold) {
         raiseMode();
     }
 }
@@ -113,6 +141,8 @@ void ShellMessenger::setOnline(bool online)
 void ShellMessenger::setUserLevel(std::int16_t level)
 {
     mUserLevel = level;
+    // Views look at the level when they hear of the mode.
+    raiseMode();
     emit userLevelChanged(level);
 }
 
@@ -141,13 +171,40 @@ void ShellMessenger::localize(ILocalizable& view)
 
 void ShellMessenger::informUnitChanges()
 {
-    const Loading loading{mStore};
-    ViewSetUnits.raise();
+    {
+        const Loading loading{mStore};
+        ViewSetUnits.raise();
+    }
+    emit unitsChanged();
 }
 
 bool ShellMessenger::readGroup(const std::string& group)
 {
-    return sendToDevice(readRequest(group), "read");
+    if (std::ranges::find(kStatusRequests, std::string_view{group}) == kStatusRequests.end()) {
+        return sendToDevice(emptyRequest(group, "read"), "read");
+    }
+    if (!maySend("read")) {
+        return false;
+    }
+    readBeside(group);
+    return true;
+}
+
+void ShellMessenger::readBeside(const std::string& group)
+{
+    mBeside.setDelay(mLink.delay());
+    mBeside.send(emptyRequest(group, "read"));
+}
+
+void ShellMessenger::takeNewAddress(std::uint8_t address)
+{
+    emit addressChanged(address);
+    // Not from within the control that has set it.
+    QTimer::singleShot(0, this, [this] {
+        if (mOnline) {
+            readBeside(kAddressGroup);
+        }
+    });
 }
 
 bool ShellMessenger::readAll()
@@ -165,17 +222,27 @@ bool ShellMessenger::readAll()
 
 std::string ShellMessenger::GetHostDocument(const std::string& name)
 {
-    const auto found = mHostDocuments.find(name);
-    return found == mHostDocuments.end() ? std::string{} : found->second;
+    return mHostDocuments.get(name);
 }
 
 bool ShellMessenger::SetHostDocument(const std::string& name, const std::string& xml)
 {
-    mHostDocuments[name] = xml;
+    try {
+        mHostDocuments.set(name, xml);
+    } catch (const platform::Failure& failure) {
+        ShowMessage("error", failure.description());
+        return false;
+    }
+    emit hostDocumentKept(qString(name));
     return true;
 }
 
-bool ShellMessenger::sendToDevice(const std::string& requestXml, const std::string& access)
+bool ShellMessenger::clearConfigurationChanged()
+{
+    return sendToDevice(emptyRequest(kClearRequest, "act"), "act");
+}
+
+bool ShellMessenger::maySend(const std::string& access)
 {
     if (!mOnline) {
         ShowMessage("error", "shell_offlineNoRequest");
@@ -185,6 +252,17 @@ bool ShellMessenger::sendToDevice(const std::string& requestXml, const std::stri
         ShowMessage("error", "shell_userLevelTooLow");
         return false;
     }
+    return true;
+}
+
+bool ShellMessenger::sendToDevice(const std::string& requestXml, const std::string& access)
+{
+    if (!maySend(access)) {
+        return false;
+    }
+    mKept.push_back(!documents::openText(requestXml)
+                         .selectSingleNode("//*[local-name()='communicationRequest' and "
+                                           "@datasetSave='0']"));
     mLink.send(requestXml);
     return true;
 }
@@ -195,10 +273,12 @@ void ShellMessenger::SendCommunicationRequest(const std::string& requestXml, con
     const std::string     access =
         document.selectSingleNode("//*[local-name()='communicationRequest']/@access").get_text();
     if (mOnline || access != "writeOffline") {
+        mStore.keepSent(document);
         sendToDevice(requestXml, access);
         return;
     }
     mStore.accept(document);
+    tellMasks(document);
     mAccepted = true;
     tellAccepted();
 }
@@ -241,14 +321,60 @@ void ShellMessenger::raiseMode()
 void ShellMessenger::takeResponse(const QString& xml)
 {
     const IXMLDOMDocument response = documents::openText(xml.toStdString());
-    const std::string     status   = documents::responseAttribute(response, "responseStatus");
-    mStore.beginResponse(response);
+    const bool            isKept   = mKept.empty() || mKept.front();
+    // Answers come in the order of their requests.
+    if (!mKept.empty() && documents::responseAttribute(response, "isFinal") == "1") {
+        mKept.pop_front();
+    }
+    if (isKept) {
+        mStore.beginResponse(response, ReadBy::user);
+    }
+    handOut(response);
+}
+
+void ShellMessenger::forgetRequests()
+{
+    mKept.clear();
+    mLink.cancel();
+    mBeside.cancel();
+}
+
+void ShellMessenger::takeResponseBeside(const QString& xml)
+{
+    const IXMLDOMDocument response = documents::openText(xml.toStdString());
+    mStore.beginResponse(response, ReadBy::program);
+    handOut(response);
+}
+
+void ShellMessenger::handOut(const IXMLDOMDocument& response)
+{
+    const std::string status = documents::responseAttribute(response, "responseStatus");
     if (status == "ok" || status == "local") {
         emit onlineDataArrived(response);
+        tellMasks(response);
+        tellOperationTime(response);
     } else {
         emit errorDataArrived(response);
     }
     mStore.endResponse();
+}
+
+void ShellMessenger::tellMasks(const IXMLDOMNode& message)
+{
+    for (const IXMLDOMNode& item :
+         message.selectNodes("//*[local-name()='item' and starts-with(@name,'statusMask')]")) {
+        ViewReceiveValue.raise(documents::attributeText(item, "name"), item.get_text());
+    }
+}
+
+void ShellMessenger::tellOperationTime(const IXMLDOMNode& response)
+{
+    const IXMLDOMNode item = documents::findItem(response, "totalOperationTime");
+    if (!item || item.get_text().empty()) {
+        return;
+    }
+    ViewReceiveValue.raise("ctr_totalOperationTime", item.get_text());
+    ViewReceiveValue.raise("date_counters", eventLog::dateText(platform::Toolkit::current().now()));
 }
 
 void ShellMessenger::SetParameterState(const std::string& parameterName, const std::string& state)
@@ -259,7 +385,21 @@ void ShellMessenger::SetParameterState(const std::string& parameterName, const s
 
 std::string ShellMessenger::GetInstallPath()
 {
-    return (QCoreApplication::applicationDirPath() + '/').toStdString();
+    if (mFolder.empty() && !mTemporaryFolder) {
+        mTemporaryFolder.emplace();
+    }
+    const std::string base =
+        mFolder.empty() ? mTemporaryFolder->path().toStdString() + '/' : mFolder;
+    const std::string result = base + "install/";
+    if (!mIsInstalled) {
+        mIsInstalled = true; // or a folder that cannot be written would be told each time
+        try {
+            installDocuments(result);
+        } catch (const platform::Failure& failure) {
+            ShowMessage("error", failure.description());
+        }
+    }
+    return result;
 }
 
 std::string ShellMessenger::GetWorkPath()
@@ -281,17 +421,46 @@ void ShellMessenger::BookChange(IQornDataEditor& editor, const std::string& tag,
                            type, contextTag);
 }
 
+std::int16_t ShellMessenger::GetStatusClassification()
+{
+    return mFixedClassification.value_or(mClassification);
+}
+
 void ShellMessenger::SetStatusClassification(std::int16_t classification)
 {
-    if (!mClassificationFixed) {
+    if (!mFixedClassification && classification != mClassification) {
         mClassification = classification;
+        emit classificationChanged();
     }
 }
 
 void ShellMessenger::SetFixedStatusClassification(std::int16_t classification)
 {
-    mClassification      = classification;
-    mClassificationFixed = true;
+    mFixedClassification = classification;
+    emit classificationChanged();
+}
+
+bool ShellMessenger::HasConfigurationChangedSign()
+{
+    return mTypeInfo &&
+           mTypeInfo.selectSingleNode("//deviceStatus/*/*[@name='statusHARTConfigurationChanged']");
+}
+
+void ShellMessenger::SetConfigurationChanged(const std::string& value)
+{
+    const bool changed = !value.empty() && value != "0";
+    if (changed != mConfigurationChanged) {
+        mConfigurationChanged = changed;
+        emit configurationChangedChanged();
+    }
+}
+
+void ShellMessenger::SetCombinedStatus(std::int16_t, const std::string& text)
+{
+    if (text != mCombinedStatus) {
+        mCombinedStatus = text;
+        emit combinedStatusChanged();
+    }
 }
 
 void ShellMessenger::SetDownloadPhase(std::int16_t phase)
@@ -318,11 +487,27 @@ void ShellMessenger::TransferFocus()
 void ShellMessenger::NotifyDialog(std::int16_t phase)
 {
     emit dialogNotified(phase);
+    if (phase == kConfigurationEnds) {
+        // Not from within the response that may have ended it. What the device did not take is
+        // dropped with the configuration: view and datafile show what it has.
+        QTimer::singleShot(0, this, [this] {
+            if (mOnline && mStore.hasSent()) {
+                readGroup(kMasksRequest);
+            }
+        });
+    }
 }
 
 void ShellMessenger::WriteLog(std::int16_t category, const std::string& text)
 {
     emit logWritten(QChar{static_cast<char16_t>(category)}, qString(text));
+}
+
+void ShellMessenger::RefreshData()
+{
+    if (mStore.isOpen()) {
+        emit datafileChanged();
+    }
 }
 
 std::int32_t ShellMessenger::AskQuestion(const std::string& titleKey,

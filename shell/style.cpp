@@ -37,6 +37,14 @@ void drawRowFocus(const QStyleOption& option, QPainter& painter)
     painter.restore();
 }
 
+/// A frame that is all of a view is the ground that the view's widgets stand on, and not a card:
+/// that is around the view, with the title.
+bool fillsItsView(const QWidget* frame)
+{
+    const QWidget* const view = frame != nullptr ? frame->parentWidget() : nullptr;
+    return view != nullptr && frame->geometry() == view->rect();
+}
+
 /// The ground of cards is none of the palette's usual roles.
 constexpr auto kCardRole = QPalette::AlternateBase;
 
@@ -109,8 +117,14 @@ void ShellStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
     constexpr int   kTitle    = 24;
     painter->save();
     painter->setRenderHint(QPainter::Antialiasing);
-    painter->setPen(group->palette.color(QPalette::Mid));
     painter->setBrush(group->palette.color(kCardRole));
+    if (fillsItsView(widget)) {
+        painter->setPen(Qt::NoPen);
+        painter->drawRect(group->rect);
+        painter->restore();
+        return;
+    }
+    painter->setPen(group->palette.color(QPalette::Mid));
     painter->drawRoundedRect(QRectF(group->rect).adjusted(0.5, 0.5, -0.5, -0.5), kRadius, kRadius);
     QFont font = painter->font();
     font.setBold(true);

@@ -4,7 +4,9 @@
 #include "editors/CtrDateEdit.h"
 #include "editors/CtrTextEdit.h"
 #include "framework/values.h"
+#include "shell/tour_actions.h"
 #include "shell/tour_guide.h"
+#include "shell/tour_status.h"
 #include "shell/user_input.h"
 
 #include <QMessageBox>
@@ -310,6 +312,21 @@ int takeTour(const Options& options)
         {"The device answers with errors.", meetErrors},
         {"The datafile is saved and loaded again.", saveAndLoad},
         {"Languages, colours and screen resolutions.", switchLanguagesAndColours},
+        {"Conditions of the device come and go.", watchTheStatus},
+        {"The classification of the conditions is switched.", switchClassifications},
+        {"Conditions are switched off and on in the device.", configureOnline},
+        {"Conditions are switched off in the datafile.", configureOffline},
+        {"A device that knows severities only.", showTheOtherSample},
+        {"The status in all languages.", showStatusInAllLanguages},
+        {"Options, checks and durations are edited and go to the device.", editTheOptions},
+        {"The event log is read to its end, on both devices.", readTheEventLog},
+        {"The device is reset.", resetTheDevice},
+        {"The device gets another polling address.", changeTheAddress},
+        {"The current output is calibrated.", calibrateTheOutput},
+        {"The user walks away in the middle of a calibration.", walkAwayFromTheCalibration},
+        {"A module is chosen for the bus.", chooseAModule},
+        {"The settings are changed and stay.", changeTheSettings},
+        {"Actions and settings in other languages.", showActionsInAllLanguages},
     };
     TourGuide guide(options.tourFolder, options.datafile);
     guide.tell("The road of one value");

@@ -62,9 +62,11 @@ TourGuide::~TourGuide()
 
 void TourGuide::openWindow()
 {
-    mWindow         = std::make_unique<MainWindow>(&mDialogs);
+    mWindow         = std::make_unique<MainWindow>(&mDialogs, Folders::in(mWork.toStdString()));
     auto& messenger = mWindow->messenger();
     messenger.link().setDelay(std::chrono::milliseconds{0});
+    // Nothing happens by itself: the tour reads the status where it shows it.
+    mWindow->statusCycle().setInterval(std::chrono::milliseconds{0});
     const auto hear = [this](const IXMLDOMNode& response) {
         const std::string code = documents::responseAttribute(response, "errorCode");
         mHeard.responses << QString::fromStdString(
@@ -113,7 +115,7 @@ void TourGuide::clickCommand(const char* name)
 
 void TourGuide::waitForDevice()
 {
-    check(userInput::wait([this] { return !mWindow->messenger().link().isBusy(); }),
+    check(userInput::wait([this] { return !mWindow->messenger().isWaiting(); }),
           "the device has answered");
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/main_window.h"
+#include "shell/view_page.h"
 #include "shell/window_dialogs.h"
 
 #include <QPixmap>
@@ -42,6 +43,17 @@ public:
         auto* const found = dynamic_cast<Editor*>(mWindow->book().find(parameter));
         if (found == nullptr) {
             throw platform::Failure(platform::kInvalidCall, "no editor for " + parameter);
+        }
+        return *found;
+    }
+    /// The view that fills a page; a `Failure` if it is of another kind, or there is none.
+    template <class View>
+    View& view(const char* page)
+    {
+        const auto* const filled = dynamic_cast<const ViewPage*>(mWindow->book().page(page));
+        auto* const found = filled != nullptr ? dynamic_cast<View*>(&filled->view()) : nullptr;
+        if (found == nullptr) {
+            throw platform::Failure(platform::kInvalidCall, std::string("no view on page ") + page);
         }
         return *found;
     }

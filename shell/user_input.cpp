@@ -4,6 +4,8 @@
 #include <QElapsedTimer>
 #include <QKeyEvent>
 #include <QMouseEvent>
+#include <QRadioButton>
+#include <QTreeView>
 #include <QWidget>
 
 namespace quill::shell::userInput {
@@ -31,15 +33,52 @@ void key(QWidget& widget, int code, Qt::KeyboardModifiers modifiers, const QStri
 
 void click(QWidget& widget)
 {
+    constexpr int kMark = 8; // from the left edge to the middle of the mark
     widget.window()->activateWindow();
     settle();
-    const QPointF place = widget.rect().center();
+    QPointF place = widget.rect().center();
+    if (qobject_cast<QRadioButton*>(&widget) != nullptr) {
+        place.setX(kMark); // it takes no clicks behind its text
+    }
     if (widget.isEnabled() && (widget.focusPolicy() & Qt::ClickFocus) != 0) {
         widget.setFocus(Qt::MouseFocusReason);
     }
     send(widget, QEvent::MouseButtonPress, place, Qt::LeftButton);
     send(widget, QEvent::MouseButtonRelease, place, Qt::NoButton);
     settle();
+}
+
+void clickRow(QTreeView& tree, const QModelIndex& row)
+{
+    tree.window()->activateWindow();
+    tree.scrollTo(row);
+    settle();
+    tree.setFocus(Qt::MouseFocusReason);
+    const QRect    place = tree.visualRect(row);
+    constexpr int  kIcon = 10; // from the left edge to the middle of what stands in front
+    const QPointF  at(place.left() + kIcon, place.center().y());
+    QWidget* const area = tree.viewport();
+    send(*area, QEvent::MouseButtonPress, at, Qt::LeftButton);
+    send(*area, QEvent::MouseButtonRelease, at, Qt::NoButton);
+    settle();
+}
+
+QModelIndex rowNumber(const QTreeView& tree, int number)
+{
+    const QAbstractItemModel& rows = *tree.model();
+    const auto find = [&](const QModelIndex& parent, const auto& self) -> QModelIndex {
+        for (int place = 0; place < rows.rowCount(parent); ++place) {
+            const QModelIndex row = rows.index(place, 0, parent);
+            if (--number == 0) {
+                return row;
+            }
+            if (const QModelIndex below = self(row, self); below.isValid()) {
+                return below;
+            }
+        }
+        return {};
+    };
+    return find({}, find);
 }
 
 void type(QWidget& widget, const QString& text)

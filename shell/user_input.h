@@ -5,6 +5,8 @@
 
 #include <functional>
 
+class QModelIndex;
+class QTreeView;
 class QWidget;
 
 namespace quill::shell::userInput {
@@ -14,6 +16,10 @@ namespace quill::shell::userInput {
 
 /// A click in the middle of the widget.
 void click(QWidget& widget);
+/// A click on the row of a tree or a list, where its icon or check box is. The row is scrolled to.
+void clickRow(QTreeView& tree, const QModelIndex& row);
+/// The row with this number, from 1, as a grid counts them: each one before its children.
+[[nodiscard]] QModelIndex rowNumber(const QTreeView& tree, int number);
 /// Clicks into the widget, replaces the text in it and presses no further key.
 void type(QWidget& widget, const QString& text);
 void press(QWidget& widget, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier);

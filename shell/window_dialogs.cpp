@@ -40,7 +40,9 @@ bool MessageBoxes::askQuestion(const QString& title, const QString& text)
     QMessageBox        box(QMessageBox::Question, title, text, QMessageBox::NoButton, &mWindow);
     QPushButton*       yes = box.addButton(mTexts.text("yes"), QMessageBox::YesRole);
     QPushButton* const no  = box.addButton(mTexts.text("no"), QMessageBox::NoRole);
-    box.setDefaultButton(yes);
+    // Whoever asks here is about to throw something away: edits, what the device has collected, or
+    // the state of a calibration. Enter must not do that by itself.
+    box.setDefaultButton(no);
     box.setEscapeButton(no);
     box.exec();
     return box.clickedButton() == yes;

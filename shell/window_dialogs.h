@@ -49,8 +49,9 @@ public:
     explicit OncePerResponse(UserDialogs& dialogs) : mDialogs(dialogs) {}
 
     /// From here to `end` a message is shown only once.
-    void begin() { mTold.emplace(); }
-    void end() { mTold.reset(); }
+    void               begin() { mTold.emplace(); }
+    void               end() { mTold.reset(); }
+    [[nodiscard]] bool hasTold() const { return mTold && !mTold->isEmpty(); }
 
     void showMessage(const QString& title, const QString& text) override
     {

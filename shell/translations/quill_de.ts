@@ -404,8 +404,8 @@
         <translation>9: Variablen mit Status</translation>
     </message>
     <message id="outputCurrent">
-        <source>Current 4 to 20 mA</source>
-        <translation>Strom 4 bis 20 mA</translation>
+        <source>Output current</source>
+        <translation>Ausgangsstrom</translation>
     </message>
     <message id="outputSwitch">
         <source>Limit switch</source>
@@ -489,7 +489,7 @@
     </message>
     <message id="travel">
         <source>Travel</source>
-        <translation>Hub</translation>
+        <translation>Weg</translation>
     </message>
     <message id="length">
         <source>Length</source>
@@ -752,8 +752,8 @@
         <translation>Quill – %1 (nicht gespeichert)</translation>
     </message>
     <message id="shell_sampleName">
-        <source>sample VX4400H</source>
-        <translation>Beispiel VX4400H</translation>
+        <source>sample %1</source>
+        <translation>Beispiel %1</translation>
     </message>
     <message id="shell_menuFile">
         <source>&amp;File</source>
@@ -780,12 +780,12 @@
         <translation>Öffnet eine Gerätedatei</translation>
     </message>
     <message id="shell_openSample">
-        <source>Open the &amp;sample</source>
+        <source>Open a &amp;sample</source>
         <translation>&amp;Beispiel öffnen</translation>
     </message>
     <message id="shell_openSampleTip">
-        <source>Opens the sample datafile of the VX4400H</source>
-        <translation>Öffnet die Beispieldatei des VX4400H</translation>
+        <source>Opens the datafile of a sample device</source>
+        <translation>Öffnet die Datei eines Beispielgeräts</translation>
     </message>
     <message id="shell_save">
         <source>&amp;Save</source>
@@ -1005,8 +1005,8 @@
         <translation>Abstimmung und Ausgang</translation>
     </message>
     <message id="shell_pageAlarms">
-        <source>Alarms and burst mode</source>
-        <translation>Alarme und Burst-Betrieb</translation>
+        <source>Alarms</source>
+        <translation>Alarme</translation>
     </message>
     <message id="shell_pageDiagnostics">
         <source>Diagnostics</source>
@@ -1157,5 +1157,1929 @@
         <translation>stimmt wieder mit dem Gerät überein</translation>
     </message>
     <!-- End of the window -->
+    <message id="shell_pageStatus">
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message id="shell_pageStatusConfiguration">
+        <source>Status configuration</source>
+        <translation>Statuskonfiguration</translation>
+    </message>
+    <message id="shell_sampleVX4400H">
+        <source>VX4400&amp;H (HART)</source>
+        <translation>VX4400&amp;H (HART)</translation>
+    </message>
+    <message id="shell_sampleVX4400F">
+        <source>VX4400&amp;F (fieldbus)</source>
+        <translation>VX4400&amp;F (Feldbus)</translation>
+    </message>
+    <message id="shell_showStatus">
+        <source>Device s&amp;tatus</source>
+        <translation>Geräte&amp;status</translation>
+    </message>
+    <message id="shell_showStatusTip">
+        <source>Shows the page with the device's status</source>
+        <translation>Zeigt die Seite mit dem Gerätestatus</translation>
+    </message>
+    <message id="shell_deviceStatusIs">
+        <source>Device status: %1</source>
+        <translation>Gerätestatus: %1</translation>
+    </message>
+    <message id="shell_configurationChanged">
+        <source>Configuration changed</source>
+        <translation>Konfiguration geändert</translation>
+    </message>
+    <message id="shell_clearChanged">
+        <source>&amp;Acknowledge changed configuration</source>
+        <translation>Geänderte Konfiguration &amp;quittieren</translation>
+    </message>
+    <message id="shell_clearChangedTip">
+        <source>Clears the device's sign that its configuration was changed</source>
+        <translation>Löscht die Anzeige des Geräts, dass seine Konfiguration geändert wurde</translation>
+    </message>
+    <message id="shell_acknowledge">
+        <source>Acknowledge</source>
+        <translation>Quittieren</translation>
+    </message>
+    <message id="shell_menuClassification">
+        <source>Status &amp;classification</source>
+        <translation>Status&amp;klassifizierung</translation>
+    </message>
+    <message id="shell_classificationSeverity">
+        <source>&amp;Severity</source>
+        <translation>&amp;Schweregrad</translation>
+    </message>
+    <message id="shell_classificationNamur">
+        <source>&amp;NAMUR NE 107</source>
+        <translation>&amp;NAMUR NE 107</translation>
+    </message>
+    <message id="shell_classificationTip">
+        <source>How the device's conditions are classified</source>
+        <translation>Wie die Zustände des Geräts eingestuft werden</translation>
+    </message>
+    <message id="deviceStatus">
+        <source>Device status</source>
+        <translation>Gerätestatus</translation>
+    </message>
+    <message id="deviceStatusNAMUR">
+        <source>Device status (NAMUR)</source>
+        <translation>Gerätestatus (NAMUR)</translation>
+    </message>
+    <message id="deviceStatusMasks">
+        <source>Status masks</source>
+        <translation>Statusmasken</translation>
+    </message>
+    <message id="statusConfiguration">
+        <source>Status configuration</source>
+        <translation>Statuskonfiguration</translation>
+    </message>
+    <message id="deviceFailure">
+        <source>Failure</source>
+        <translation>Ausfall</translation>
+    </message>
+    <message id="deviceUnderTest">
+        <source>Function check</source>
+        <translation>Funktionskontrolle</translation>
+    </message>
+    <message id="deviceOffSpecification">
+        <source>Out of specification</source>
+        <translation>Außerhalb der Spezifikation</translation>
+    </message>
+    <message id="deviceMaintenanceRequired">
+        <source>Maintenance required</source>
+        <translation>Wartungsbedarf</translation>
+    </message>
+    <message id="deviceInfo">
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message id="deviceOk">
+        <source>Good</source>
+        <translation>Gut</translation>
+    </message>
+    <message id="deviceDiagnosisPassiv">
+        <source>Diagnosis inactive</source>
+        <translation>Diagnose inaktiv</translation>
+    </message>
+    <message id="failsafe">
+        <source>Fail-safe</source>
+        <translation>Sicherheitsstellung</translation>
+    </message>
+    <message id="alarm">
+        <source>Alarm</source>
+        <translation>Alarm</translation>
+    </message>
+    <message id="warning">
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message id="info">
+        <source>Information</source>
+        <translation>Information</translation>
+    </message>
+    <message id="inactive">
+        <source>Switched off</source>
+        <translation>Ausgeschaltet</translation>
+    </message>
+    <message id="notMonitored">
+        <source>Not monitored</source>
+        <translation>Nicht überwacht</translation>
+    </message>
+    <message id="unknown">
+        <source>Unknown</source>
+        <translation>Unbekannt</translation>
+    </message>
+    <message id="checkEnabled">
+        <source>Switched on</source>
+        <translation>Eingeschaltet</translation>
+    </message>
+    <message id="checkDisabled">
+        <source>Switched off</source>
+        <translation>Ausgeschaltet</translation>
+    </message>
+    <message id="checkEnabledmodified">
+        <source>Switched on, changed</source>
+        <translation>Eingeschaltet, geändert</translation>
+    </message>
+    <message id="checkDisabledmodified">
+        <source>Switched off, changed</source>
+        <translation>Ausgeschaltet, geändert</translation>
+    </message>
+    <message id="modified">
+        <source>Changed</source>
+        <translation>Geändert</translation>
+    </message>
+    <message id="statusGroupElectronics">
+        <source>Electronics</source>
+        <translation>Elektronik</translation>
+    </message>
+    <message id="statusElectronicsFailure">
+        <source>Electronics failure</source>
+        <translation>Elektronikausfall</translation>
+    </message>
+    <message id="statusMemoryFailure">
+        <source>Memory failure</source>
+        <translation>Speicherfehler</translation>
+    </message>
+    <message id="statusParameterChecksumError">
+        <source>Parameter checksum error</source>
+        <translation>Prüfsummenfehler der Parameter</translation>
+    </message>
+    <message id="statusInternalVoltageLow">
+        <source>Internal supply voltage low</source>
+        <translation>Interne Versorgungsspannung zu niedrig</translation>
+    </message>
+    <message id="statusTemperatureHigh">
+        <source>Device temperature high</source>
+        <translation>Gerätetemperatur zu hoch</translation>
+    </message>
+    <message id="statusTemperatureLow">
+        <source>Device temperature low</source>
+        <translation>Gerätetemperatur zu niedrig</translation>
+    </message>
+    <message id="statusCoverOpen">
+        <source>Cover open</source>
+        <translation>Gehäusedeckel offen</translation>
+    </message>
+    <message id="statusWatchdogReset">
+        <source>Reset by watchdog</source>
+        <translation>Neustart durch Watchdog</translation>
+    </message>
+    <message id="statusGroupSensors">
+        <source>Sensors</source>
+        <translation>Sensoren</translation>
+    </message>
+    <message id="statusTravelSensorFailure">
+        <source>Travel sensor failure</source>
+        <translation>Ausfall des Wegsensors</translation>
+    </message>
+    <message id="statusTravelOutOfRange">
+        <source>Travel outside sensor range</source>
+        <translation>Weg außerhalb des Messbereichs</translation>
+    </message>
+    <message id="statusSupplySensorFailure">
+        <source>Supply pressure sensor failure</source>
+        <translation>Ausfall des Zuluftdrucksensors</translation>
+    </message>
+    <message id="statusActuatorSensorFailure">
+        <source>Actuator pressure sensor failure</source>
+        <translation>Ausfall des Antriebsdrucksensors</translation>
+    </message>
+    <message id="statusTemperatureSensorFailure">
+        <source>Temperature sensor failure</source>
+        <translation>Ausfall des Temperatursensors</translation>
+    </message>
+    <message id="statusSensorDrift">
+        <source>Sensor drift</source>
+        <translation>Sensordrift</translation>
+    </message>
+    <message id="statusGroupPneumatics">
+        <source>Pneumatics</source>
+        <translation>Pneumatik</translation>
+    </message>
+    <message id="statusSupplyPressureLow">
+        <source>Supply pressure low</source>
+        <translation>Zuluftdruck zu niedrig</translation>
+    </message>
+    <message id="statusSupplyPressureHigh">
+        <source>Supply pressure high</source>
+        <translation>Zuluftdruck zu hoch</translation>
+    </message>
+    <message id="statusSupplyPressureUnstable">
+        <source>Supply pressure unstable</source>
+        <translation>Zuluftdruck schwankt</translation>
+    </message>
+    <message id="statusDriveSaturated">
+        <source>Drive signal at its limit</source>
+        <translation>Stellsignal an der Grenze</translation>
+    </message>
+    <message id="statusPneumaticLeak">
+        <source>Pneumatic leak</source>
+        <translation>Pneumatische Leckage</translation>
+    </message>
+    <message id="statusPilotStageFailure">
+        <source>Pilot stage failure</source>
+        <translation>Ausfall der Vorsteuerstufe</translation>
+    </message>
+    <message id="statusExhaustBlocked">
+        <source>Exhaust blocked</source>
+        <translation>Abluft blockiert</translation>
+    </message>
+    <message id="statusGroupValve">
+        <source>Valve and actuator</source>
+        <translation>Ventil und Antrieb</translation>
+    </message>
+    <message id="statusTravelDeviation">
+        <source>Travel deviation</source>
+        <translation>Regelabweichung</translation>
+    </message>
+    <message id="statusValveStuck">
+        <source>Valve stuck</source>
+        <translation>Ventil blockiert</translation>
+    </message>
+    <message id="statusFrictionHigh">
+        <source>Friction high</source>
+        <translation>Reibung zu hoch</translation>
+    </message>
+    <message id="statusFrictionLow">
+        <source>Friction low</source>
+        <translation>Reibung zu niedrig</translation>
+    </message>
+    <message id="statusStickSlip">
+        <source>Stick-slip motion</source>
+        <translation>Ruckgleiten (Stick-Slip)</translation>
+    </message>
+    <message id="statusTravelHigh">
+        <source>Travel high alarm</source>
+        <translation>Wegalarm oben</translation>
+    </message>
+    <message id="statusTravelLow">
+        <source>Travel low alarm</source>
+        <translation>Wegalarm unten</translation>
+    </message>
+    <message id="statusCycleCounterLimit">
+        <source>Cycle counter limit exceeded</source>
+        <translation>Grenzwert des Zyklenzählers überschritten</translation>
+    </message>
+    <message id="statusTravelSumLimit">
+        <source>Total travel limit exceeded</source>
+        <translation>Grenzwert der Wegsumme überschritten</translation>
+    </message>
+    <message id="statusSpringFailure">
+        <source>Actuator spring failure</source>
+        <translation>Bruch der Antriebsfeder</translation>
+    </message>
+    <message id="statusSeatWear">
+        <source>Seat wear</source>
+        <translation>Verschleiß des Sitzes</translation>
+    </message>
+    <message id="statusPackingLeak">
+        <source>Packing leak</source>
+        <translation>Leckage der Stopfbuchse</translation>
+    </message>
+    <message id="statusGroupProcess">
+        <source>Process</source>
+        <translation>Prozess</translation>
+    </message>
+    <message id="statusSignalLow">
+        <source>Input signal low</source>
+        <translation>Eingangssignal zu niedrig</translation>
+    </message>
+    <message id="statusSignalHigh">
+        <source>Input signal high</source>
+        <translation>Eingangssignal zu hoch</translation>
+    </message>
+    <message id="statusSetpointOscillating">
+        <source>Set point oscillates</source>
+        <translation>Sollwert schwingt</translation>
+    </message>
+    <message id="statusCavitation">
+        <source>Cavitation</source>
+        <translation>Kavitation</translation>
+    </message>
+    <message id="statusSafetyShutdown">
+        <source>Safety shutdown active</source>
+        <translation>Sicherheitsabschaltung aktiv</translation>
+    </message>
+    <message id="statusStrokeTestFailed">
+        <source>Stroke test failed</source>
+        <translation>Hubtest fehlgeschlagen</translation>
+    </message>
+    <message id="statusStrokeTestOverdue">
+        <source>Stroke test overdue</source>
+        <translation>Hubtest überfällig</translation>
+    </message>
+    <message id="statusGroupOperation">
+        <source>Configuration and operation</source>
+        <translation>Konfiguration und Betrieb</translation>
+    </message>
+    <message id="statusSimulationActive">
+        <source>Simulation active</source>
+        <translation>Simulation aktiv</translation>
+    </message>
+    <message id="statusLocalOperation">
+        <source>Local operation</source>
+        <translation>Vor-Ort-Bedienung</translation>
+    </message>
+    <message id="statusLoopCurrentFixed">
+        <source>Loop current fixed</source>
+        <translation>Schleifenstrom fest eingestellt</translation>
+    </message>
+    <message id="statusBusTimeout">
+        <source>Bus communication interrupted</source>
+        <translation>Buskommunikation unterbrochen</translation>
+    </message>
+    <message id="statusNotCalibrated">
+        <source>Travel not calibrated</source>
+        <translation>Weg nicht kalibriert</translation>
+    </message>
+    <message id="statusCalibrationRunning">
+        <source>Calibration running</source>
+        <translation>Kalibrierung läuft</translation>
+    </message>
+    <message id="statusWriteProtected">
+        <source>Write protection on</source>
+        <translation>Schreibschutz aktiv</translation>
+    </message>
+    <message id="statusMaintenanceDue">
+        <source>Maintenance due</source>
+        <translation>Wartung fällig</translation>
+    </message>
+    <message id="statusColdStart">
+        <source>Restarted since last read</source>
+        <translation>Neustart seit letztem Auslesen</translation>
+    </message>
+    <message id="statusHARTConfigurationChanged">
+        <source>Configuration changed</source>
+        <translation>Konfiguration geändert</translation>
+    </message>
+    <message id="statusConfigurationChanged">
+        <source>Configuration changed</source>
+        <translation>Konfiguration geändert</translation>
+    </message>
+    <message id="faultSupplyFailure">
+        <source>Supply air fails</source>
+        <translation>Zuluft fällt aus</translation>
+    </message>
+    <message id="faultSupplyTooHigh">
+        <source>Supply pressure regulator fails</source>
+        <translation>Zuluftdruckregler versagt</translation>
+    </message>
+    <message id="faultFriction">
+        <source>Raised friction</source>
+        <translation>Erhöhte Reibung</translation>
+    </message>
+    <message id="faultWornPacking">
+        <source>Worn packing</source>
+        <translation>Verschlissene Stopfbuchse</translation>
+    </message>
+    <message id="faultStuck">
+        <source>Valve stuck</source>
+        <translation>Ventil blockiert</translation>
+    </message>
+    <message id="faultLeak">
+        <source>Leaking actuator</source>
+        <translation>Undichter Antrieb</translation>
+    </message>
+    <message id="faultTravelSensor">
+        <source>Travel sensor fails</source>
+        <translation>Wegsensor fällt aus</translation>
+    </message>
+    <message id="faultSupplySensor">
+        <source>Supply pressure sensor fails</source>
+        <translation>Zuluftdrucksensor fällt aus</translation>
+    </message>
+    <message id="faultActuatorSensor">
+        <source>Actuator pressure sensor fails</source>
+        <translation>Antriebsdrucksensor fällt aus</translation>
+    </message>
+    <message id="faultTemperatureSensor">
+        <source>Temperature sensor fails</source>
+        <translation>Temperatursensor fällt aus</translation>
+    </message>
+    <message id="faultOverheating">
+        <source>Overheating</source>
+        <translation>Überhitzung</translation>
+    </message>
+    <message id="faultFrost">
+        <source>Frost</source>
+        <translation>Frost</translation>
+    </message>
+    <message id="faultCoverOpen">
+        <source>Cover lifted</source>
+        <translation>Deckel abgenommen</translation>
+    </message>
+    <message id="faultSignalLost">
+        <source>Input signal lost</source>
+        <translation>Eingangssignal ausgefallen</translation>
+    </message>
+    <message id="faultSignalOscillating">
+        <source>Oscillating input signal</source>
+        <translation>Schwingendes Eingangssignal</translation>
+    </message>
+    <message id="faultSimulation">
+        <source>Simulation of measured values</source>
+        <translation>Simulation der Messwerte</translation>
+    </message>
+    <message id="statusMasks">
+        <source>Status configuration</source>
+        <translation>Statuskonfiguration</translation>
+    </message>
+    <message id="cycleCounterLimit">
+        <source>Cycle counter limit</source>
+        <translation>Grenzwert Zyklenzähler</translation>
+    </message>
+    <message id="travelSum">
+        <source>Total travel</source>
+        <translation>Wegsumme</translation>
+    </message>
+    <message id="travelSumLimit">
+        <source>Total travel limit</source>
+        <translation>Grenzwert Wegsumme</translation>
+    </message>
+    <message id="travelDeviationLimit">
+        <source>Travel deviation limit</source>
+        <translation>Grenzwert Regelabweichung</translation>
+    </message>
+    <message id="frictionHighLimit">
+        <source>High friction limit</source>
+        <translation>Oberer Reibungsgrenzwert</translation>
+    </message>
+    <message id="frictionLowLimit">
+        <source>Low friction limit</source>
+        <translation>Unterer Reibungsgrenzwert</translation>
+    </message>
+    <message id="inputCurrent">
+        <source>Input current</source>
+        <translation>Eingangsstrom</translation>
+    </message>
+    <message id="travelSetpoint">
+        <source>Travel set point</source>
+        <translation>Wegsollwert</translation>
+    </message>
+    <message id="travelDeviation">
+        <source>Travel deviation</source>
+        <translation>Regelabweichung</translation>
+    </message>
+    <message id="driveSignal">
+        <source>Drive signal</source>
+        <translation>Stellsignal</translation>
+    </message>
+    <message id="valveFriction">
+        <source>Valve friction</source>
+        <translation>Ventilreibung</translation>
+    </message>
+    <message id="statusMask1">
+        <source>Status mask, part 1</source>
+        <translation>Statusmaske, Teil 1</translation>
+    </message>
+    <message id="statusMaskInfo1">
+        <source>Information mask, part 1</source>
+        <translation>Maske Information, Teil 1</translation>
+    </message>
+    <message id="statusMaskWarning1">
+        <source>Warning mask, part 1</source>
+        <translation>Maske Warnung, Teil 1</translation>
+    </message>
+    <message id="statusMaskAlarm1">
+        <source>Alarm mask, part 1</source>
+        <translation>Maske Alarm, Teil 1</translation>
+    </message>
+    <message id="statusMaskOnOff1">
+        <source>On/off mask, part 1</source>
+        <translation>Ein/Aus-Maske, Teil 1</translation>
+    </message>
+    <message id="statusMask2">
+        <source>Status mask, part 2</source>
+        <translation>Statusmaske, Teil 2</translation>
+    </message>
+    <message id="statusMaskInfo2">
+        <source>Information mask, part 2</source>
+        <translation>Maske Information, Teil 2</translation>
+    </message>
+    <message id="statusMaskWarning2">
+        <source>Warning mask, part 2</source>
+        <translation>Maske Warnung, Teil 2</translation>
+    </message>
+    <message id="statusMaskAlarm2">
+        <source>Alarm mask, part 2</source>
+        <translation>Maske Alarm, Teil 2</translation>
+    </message>
+    <message id="statusMaskOnOff2">
+        <source>On/off mask, part 2</source>
+        <translation>Ein/Aus-Maske, Teil 2</translation>
+    </message>
+    <message id="statusMask3">
+        <source>Status mask, part 3</source>
+        <translation>Statusmaske, Teil 3</translation>
+    </message>
+    <message id="statusMaskInfo3">
+        <source>Information mask, part 3</source>
+        <translation>Maske Information, Teil 3</translation>
+    </message>
+    <message id="statusMaskWarning3">
+        <source>Warning mask, part 3</source>
+        <translation>Maske Warnung, Teil 3</translation>
+    </message>
+    <message id="statusMaskAlarm3">
+        <source>Alarm mask, part 3</source>
+        <translation>Maske Alarm, Teil 3</translation>
+    </message>
+    <message id="statusMaskOnOff3">
+        <source>On/off mask, part 3</source>
+        <translation>Ein/Aus-Maske, Teil 3</translation>
+    </message>
+    <message id="shell_simulation">
+        <source>Simulation</source>
+        <translation>Simulation</translation>
+    </message>
+    <message id="shell_simulationFaults">
+        <source>Faults</source>
+        <translation>Störungen</translation>
+    </message>
+    <message id="shell_simulationMend">
+        <source>Put everything right</source>
+        <translation>Alles beheben</translation>
+    </message>
+    <message id="shell_simulationFriction">
+        <source>Friction</source>
+        <translation>Reibung</translation>
+    </message>
+    <message id="shell_simulationSignal">
+        <source>Fixed input current</source>
+        <translation>Fester Eingangsstrom</translation>
+    </message>
+    <message id="eventLog">
+        <source>Event log</source>
+        <translation>Ereignisprotokoll</translation>
+    </message>
+    <message id="moreEvents">
+        <source>More events</source>
+        <translation>Weitere Ereignisse</translation>
+    </message>
+    <message id="totalOperationTime">
+        <source>Total operation time</source>
+        <translation>Gesamtbetriebszeit</translation>
+    </message>
+    <message id="eventLogTotalOperationTime">
+        <source>Total operation time</source>
+        <translation>Gesamtbetriebszeit</translation>
+    </message>
+    <message id="dateEstimate">
+        <source>*) Assuming 0s downtime</source>
+        <translation>*) Ohne Stillstandszeit gerechnet</translation>
+    </message>
+    <message id="class">
+        <source>Class</source>
+        <translation>Klasse</translation>
+    </message>
+    <message id="event">
+        <source>Event</source>
+        <translation>Ereignis</translation>
+    </message>
+    <message id="eventLogTimeHeader">
+        <source>Operation time (h)</source>
+        <translation>Betriebszeit (h)</translation>
+    </message>
+    <message id="date">
+        <source>Date</source>
+        <translation>Datum</translation>
+    </message>
+    <message id="channelIndex">
+        <source>Index</source>
+        <translation>Index</translation>
+    </message>
+    <message id="row">
+        <source>Row</source>
+        <translation>Zeile</translation>
+    </message>
+    <message id="eventObsolete">
+        <source>Obsolete</source>
+        <translation>Überholt</translation>
+    </message>
+    <message id="eventLogOperationTime">
+        <source>Operation time</source>
+        <translation>Betriebszeit</translation>
+    </message>
+    <message id="counters">
+        <source>Counters</source>
+        <translation>Zähler</translation>
+    </message>
+    <message id="vx4400eventClassNone">
+        <source>None</source>
+        <translation>Keine</translation>
+    </message>
+    <message id="vx4400eventClassError">
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message id="vx4400eventClassAlarm">
+        <source>Alarm</source>
+        <translation>Alarm</translation>
+    </message>
+    <message id="vx4400eventClassWarning">
+        <source>Warning</source>
+        <translation>Warnung</translation>
+    </message>
+    <message id="vx4400eventClassNotification">
+        <source>Notification</source>
+        <translation>Meldung</translation>
+    </message>
+    <message id="vx4400eventNone">
+        <source>No more events</source>
+        <translation>Keine weiteren Ereignisse</translation>
+    </message>
+    <message id="vx4400eventExternalReset">
+        <source>External reset</source>
+        <translation>Externer Neustart</translation>
+    </message>
+    <message id="vx4400eventConfigurationChanged">
+        <source>Configuration changed</source>
+        <translation>Konfiguration geändert</translation>
+    </message>
+    <message id="vx4400eventAddressChanged">
+        <source>Polling address changed</source>
+        <translation>Abfrageadresse geändert</translation>
+    </message>
+    <message id="vx4400eventStatusReset">
+        <source>Device status reset</source>
+        <translation>Gerätestatus zurückgesetzt</translation>
+    </message>
+    <message id="vx4400eventCountersReset">
+        <source>Counters reset</source>
+        <translation>Zähler zurückgesetzt</translation>
+    </message>
+    <message id="vx4400eventExtremesReset">
+        <source>Temperature extremes reset</source>
+        <translation>Temperaturextreme zurückgesetzt</translation>
+    </message>
+    <message id="vx4400eventLogReset">
+        <source>Event log cleared</source>
+        <translation>Ereignisprotokoll gelöscht</translation>
+    </message>
+    <message id="vx4400eventTuningReset">
+        <source>Tuning back to defaults</source>
+        <translation>Regelparameter auf Werkseinstellung</translation>
+    </message>
+    <message id="vx4400eventAlarmsReset">
+        <source>Alarm settings back to defaults</source>
+        <translation>Alarmeinstellungen auf Werkseinstellung</translation>
+    </message>
+    <message id="vx4400eventFactorySettings">
+        <source>Factory settings restored</source>
+        <translation>Werkseinstellungen wiederhergestellt</translation>
+    </message>
+    <message id="vx4400eventCurrentCalibrated">
+        <source>Loop current calibrated</source>
+        <translation>Schleifenstrom kalibriert</translation>
+    </message>
+    <message id="reset">
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message id="resetView">
+        <source>Reset</source>
+        <translation>Zurücksetzen</translation>
+    </message>
+    <message id="resetStatus">
+        <source>Device status</source>
+        <translation>Gerätestatus</translation>
+    </message>
+    <message id="resetDiagnosticsCode">
+        <source>Diagnostics</source>
+        <translation>Diagnose</translation>
+    </message>
+    <message id="resetParametersCode">
+        <source>Parameters</source>
+        <translation>Parameter</translation>
+    </message>
+    <message id="resetDiagnostics">
+        <source>Reset diagnostics</source>
+        <translation>Diagnose zurücksetzen</translation>
+    </message>
+    <message id="resetDiagnosticsQuestion">
+        <source>The diagnostic data chosen will be lost. Reset it?</source>
+        <translation>Die gewählten Diagnosedaten gehen verloren. Zurücksetzen?</translation>
+    </message>
+    <message id="resetParameters">
+        <source>Reset parameters</source>
+        <translation>Parameter zurücksetzen</translation>
+    </message>
+    <message id="resetParametersQuestion">
+        <source>This changes the device's settings or restarts it. The valve may move. Continue?</source>
+        <translation>Dies ändert die Einstellungen des Geräts oder startet es neu. Das Ventil kann sich bewegen. Fortfahren?</translation>
+    </message>
+    <message id="resetting">
+        <source>Resetting</source>
+        <translation>Wird zurückgesetzt</translation>
+    </message>
+    <message id="resetNothing">
+        <source>Nothing</source>
+        <translation>Nichts</translation>
+    </message>
+    <message id="resetStatusAll">
+        <source>Latched conditions</source>
+        <translation>Gespeicherte Meldungen</translation>
+    </message>
+    <message id="resetCounters">
+        <source>Counters</source>
+        <translation>Zähler</translation>
+    </message>
+    <message id="resetExtremes">
+        <source>Temperature extremes</source>
+        <translation>Temperaturextreme</translation>
+    </message>
+    <message id="resetEventLog">
+        <source>Event log</source>
+        <translation>Ereignisprotokoll</translation>
+    </message>
+    <message id="resetDiagnosticsAll">
+        <source>All diagnostic data</source>
+        <translation>Alle Diagnosedaten</translation>
+    </message>
+    <message id="resetTuning">
+        <source>Tuning to defaults</source>
+        <translation>Regelparameter auf Werkseinstellung</translation>
+    </message>
+    <message id="resetAlarms">
+        <source>Alarm settings to defaults</source>
+        <translation>Alarmeinstellungen auf Werkseinstellung</translation>
+    </message>
+    <message id="resetFactory">
+        <source>All settings to factory defaults</source>
+        <translation>Alle Einstellungen auf Werkseinstellung</translation>
+    </message>
+    <message id="resetRestart">
+        <source>Restart the device</source>
+        <translation>Gerät neu starten</translation>
+    </message>
+    <message id="hartAddress">
+        <source>HART address</source>
+        <translation>HART-Adresse</translation>
+    </message>
+    <message id="address">
+        <source>Address</source>
+        <translation>Adresse</translation>
+    </message>
+    <message id="multidrop">
+        <source>Multidrop</source>
+        <translation>Multidrop</translation>
+    </message>
+    <message id="disabled">
+        <source>Off</source>
+        <translation>Aus</translation>
+    </message>
+    <message id="enabled">
+        <source>On</source>
+        <translation>Ein</translation>
+    </message>
+    <message id="0">
+        <source>0</source>
+        <translation>0</translation>
+    </message>
+    <message id="1">
+        <source>1</source>
+        <translation>1</translation>
+    </message>
+    <message id="2">
+        <source>2</source>
+        <translation>2</translation>
+    </message>
+    <message id="3">
+        <source>3</source>
+        <translation>3</translation>
+    </message>
+    <message id="4">
+        <source>4</source>
+        <translation>4</translation>
+    </message>
+    <message id="5">
+        <source>5</source>
+        <translation>5</translation>
+    </message>
+    <message id="6">
+        <source>6</source>
+        <translation>6</translation>
+    </message>
+    <message id="7">
+        <source>7</source>
+        <translation>7</translation>
+    </message>
+    <message id="8">
+        <source>8</source>
+        <translation>8</translation>
+    </message>
+    <message id="9">
+        <source>9</source>
+        <translation>9</translation>
+    </message>
+    <message id="10">
+        <source>10</source>
+        <translation>10</translation>
+    </message>
+    <message id="11">
+        <source>11</source>
+        <translation>11</translation>
+    </message>
+    <message id="12">
+        <source>12</source>
+        <translation>12</translation>
+    </message>
+    <message id="13">
+        <source>13</source>
+        <translation>13</translation>
+    </message>
+    <message id="14">
+        <source>14</source>
+        <translation>14</translation>
+    </message>
+    <message id="15">
+        <source>15</source>
+        <translation>15</translation>
+    </message>
+    <message id="maCalibration">
+        <source>mA calibration</source>
+        <translation>mA-Kalibrierung</translation>
+    </message>
+    <message id="mACalibration">
+        <source>mA calibration</source>
+        <translation>mA-Kalibrierung</translation>
+    </message>
+    <message id="zeroPointTrim">
+        <source>1. Drive the low test current</source>
+        <translation>1. Unteren Prüfstrom ausgeben</translation>
+    </message>
+    <message id="measuredCurrentZeroTrim">
+        <source>2. Type the measured low current</source>
+        <translation>2. Gemessenen unteren Strom eingeben</translation>
+    </message>
+    <message id="finalValueTrim">
+        <source>3. Drive the high test current</source>
+        <translation>3. Oberen Prüfstrom ausgeben</translation>
+    </message>
+    <message id="measuredCurrentFullTrim">
+        <source>4. Type the measured high current</source>
+        <translation>4. Gemessenen oberen Strom eingeben</translation>
+    </message>
+    <message id="fixedOutputCurrentTurnOff">
+        <source>5. Turn the fixed current off</source>
+        <translation>5. Festen Strom abschalten</translation>
+    </message>
+    <message id="backWithArrow">
+        <source>&lt;   Back</source>
+        <translation>&lt;   Zurück</translation>
+    </message>
+    <message id="nextWithArrow">
+        <source>Next   &gt;</source>
+        <translation>Weiter   &gt;</translation>
+    </message>
+    <message id="recalibrate">
+        <source>Calibrate again</source>
+        <translation>Erneut kalibrieren</translation>
+    </message>
+    <message id="calibrationExitWarning">
+        <source>The device still drives a fixed output current. Turn it off and leave the calibration?</source>
+        <translation>Das Gerät gibt noch einen festen Strom aus. Abschalten und die Kalibrierung verlassen?</translation>
+    </message>
+    <message id="loopTestValue">
+        <source>Test current</source>
+        <translation>Prüfstrom</translation>
+    </message>
+    <message id="loopTestValueStep0">
+        <source>Test current</source>
+        <translation>Prüfstrom</translation>
+    </message>
+    <message id="loopTestValueStep2">
+        <source>Test current</source>
+        <translation>Prüfstrom</translation>
+    </message>
+    <message id="loopTestValueStep4">
+        <source>Test current</source>
+        <translation>Prüfstrom</translation>
+    </message>
+    <message id="loopCurrentZero">
+        <source>Measured low current</source>
+        <translation>Gemessener unterer Strom</translation>
+    </message>
+    <message id="loopCurrentGain">
+        <source>Measured high current</source>
+        <translation>Gemessener oberer Strom</translation>
+    </message>
+    <message id="moduleSelection">
+        <source>Module selection</source>
+        <translation>Modulauswahl</translation>
+    </message>
+    <message id="hartCmdErrIncorrectLoopCurrentMode">
+        <source>The device does not drive a current for this step. Drive the test current first; in multidrop mode the current is fixed.</source>
+        <translation>Das Gerät gibt für diesen Schritt keinen Strom aus. Zuerst den Prüfstrom ausgeben; im Multidrop-Betrieb ist der Strom fest.</translation>
+    </message>
+    <message id="hartCmdErrPassedParameterTooLarge">
+        <source>The value is too large.</source>
+        <translation>Der Wert ist zu groß.</translation>
+    </message>
+    <message id="hartCmdErrPassedParameterTooSmall">
+        <source>The value is too small.</source>
+        <translation>Der Wert ist zu klein.</translation>
+    </message>
+    <message id="eventLogEvent00">
+        <source>Event 0</source>
+        <translation>Ereignis 0</translation>
+    </message>
+    <message id="eventLogClass00">
+        <source>Event class 0</source>
+        <translation>Ereignisklasse 0</translation>
+    </message>
+    <message id="eventLogTime00">
+        <source>Event time 0</source>
+        <translation>Ereigniszeit 0</translation>
+    </message>
+    <message id="eventLogEvent01">
+        <source>Event 1</source>
+        <translation>Ereignis 1</translation>
+    </message>
+    <message id="eventLogClass01">
+        <source>Event class 1</source>
+        <translation>Ereignisklasse 1</translation>
+    </message>
+    <message id="eventLogTime01">
+        <source>Event time 1</source>
+        <translation>Ereigniszeit 1</translation>
+    </message>
+    <message id="eventLogEvent02">
+        <source>Event 2</source>
+        <translation>Ereignis 2</translation>
+    </message>
+    <message id="eventLogClass02">
+        <source>Event class 2</source>
+        <translation>Ereignisklasse 2</translation>
+    </message>
+    <message id="eventLogTime02">
+        <source>Event time 2</source>
+        <translation>Ereigniszeit 2</translation>
+    </message>
+    <message id="eventLogEvent03">
+        <source>Event 3</source>
+        <translation>Ereignis 3</translation>
+    </message>
+    <message id="eventLogClass03">
+        <source>Event class 3</source>
+        <translation>Ereignisklasse 3</translation>
+    </message>
+    <message id="eventLogTime03">
+        <source>Event time 3</source>
+        <translation>Ereigniszeit 3</translation>
+    </message>
+    <message id="eventLogEvent04">
+        <source>Event 4</source>
+        <translation>Ereignis 4</translation>
+    </message>
+    <message id="eventLogClass04">
+        <source>Event class 4</source>
+        <translation>Ereignisklasse 4</translation>
+    </message>
+    <message id="eventLogTime04">
+        <source>Event time 4</source>
+        <translation>Ereigniszeit 4</translation>
+    </message>
+    <message id="eventLogEvent05">
+        <source>Event 5</source>
+        <translation>Ereignis 5</translation>
+    </message>
+    <message id="eventLogClass05">
+        <source>Event class 5</source>
+        <translation>Ereignisklasse 5</translation>
+    </message>
+    <message id="eventLogTime05">
+        <source>Event time 5</source>
+        <translation>Ereigniszeit 5</translation>
+    </message>
+    <message id="eventLogEvent06">
+        <source>Event 6</source>
+        <translation>Ereignis 6</translation>
+    </message>
+    <message id="eventLogClass06">
+        <source>Event class 6</source>
+        <translation>Ereignisklasse 6</translation>
+    </message>
+    <message id="eventLogTime06">
+        <source>Event time 6</source>
+        <translation>Ereigniszeit 6</translation>
+    </message>
+    <message id="eventLogEvent07">
+        <source>Event 7</source>
+        <translation>Ereignis 7</translation>
+    </message>
+    <message id="eventLogClass07">
+        <source>Event class 7</source>
+        <translation>Ereignisklasse 7</translation>
+    </message>
+    <message id="eventLogTime07">
+        <source>Event time 7</source>
+        <translation>Ereigniszeit 7</translation>
+    </message>
+    <message id="eventLogEvent08">
+        <source>Event 8</source>
+        <translation>Ereignis 8</translation>
+    </message>
+    <message id="eventLogClass08">
+        <source>Event class 8</source>
+        <translation>Ereignisklasse 8</translation>
+    </message>
+    <message id="eventLogTime08">
+        <source>Event time 8</source>
+        <translation>Ereigniszeit 8</translation>
+    </message>
+    <message id="eventLogEvent09">
+        <source>Event 9</source>
+        <translation>Ereignis 9</translation>
+    </message>
+    <message id="eventLogClass09">
+        <source>Event class 9</source>
+        <translation>Ereignisklasse 9</translation>
+    </message>
+    <message id="eventLogTime09">
+        <source>Event time 9</source>
+        <translation>Ereigniszeit 9</translation>
+    </message>
+    <message id="eventLogEvent10">
+        <source>Event 10</source>
+        <translation>Ereignis 10</translation>
+    </message>
+    <message id="eventLogClass10">
+        <source>Event class 10</source>
+        <translation>Ereignisklasse 10</translation>
+    </message>
+    <message id="eventLogTime10">
+        <source>Event time 10</source>
+        <translation>Ereigniszeit 10</translation>
+    </message>
+    <message id="eventLogEvent11">
+        <source>Event 11</source>
+        <translation>Ereignis 11</translation>
+    </message>
+    <message id="eventLogClass11">
+        <source>Event class 11</source>
+        <translation>Ereignisklasse 11</translation>
+    </message>
+    <message id="eventLogTime11">
+        <source>Event time 11</source>
+        <translation>Ereigniszeit 11</translation>
+    </message>
+    <message id="eventLogEvent12">
+        <source>Event 12</source>
+        <translation>Ereignis 12</translation>
+    </message>
+    <message id="eventLogClass12">
+        <source>Event class 12</source>
+        <translation>Ereignisklasse 12</translation>
+    </message>
+    <message id="eventLogTime12">
+        <source>Event time 12</source>
+        <translation>Ereigniszeit 12</translation>
+    </message>
+    <message id="eventLogEvent13">
+        <source>Event 13</source>
+        <translation>Ereignis 13</translation>
+    </message>
+    <message id="eventLogClass13">
+        <source>Event class 13</source>
+        <translation>Ereignisklasse 13</translation>
+    </message>
+    <message id="eventLogTime13">
+        <source>Event time 13</source>
+        <translation>Ereigniszeit 13</translation>
+    </message>
+    <message id="eventLogEvent14">
+        <source>Event 14</source>
+        <translation>Ereignis 14</translation>
+    </message>
+    <message id="eventLogClass14">
+        <source>Event class 14</source>
+        <translation>Ereignisklasse 14</translation>
+    </message>
+    <message id="eventLogTime14">
+        <source>Event time 14</source>
+        <translation>Ereigniszeit 14</translation>
+    </message>
+    <message id="eventLogEvent15">
+        <source>Event 15</source>
+        <translation>Ereignis 15</translation>
+    </message>
+    <message id="eventLogClass15">
+        <source>Event class 15</source>
+        <translation>Ereignisklasse 15</translation>
+    </message>
+    <message id="eventLogTime15">
+        <source>Event time 15</source>
+        <translation>Ereigniszeit 15</translation>
+    </message>
+    <message id="eventLogEvent16">
+        <source>Event 16</source>
+        <translation>Ereignis 16</translation>
+    </message>
+    <message id="eventLogClass16">
+        <source>Event class 16</source>
+        <translation>Ereignisklasse 16</translation>
+    </message>
+    <message id="eventLogTime16">
+        <source>Event time 16</source>
+        <translation>Ereigniszeit 16</translation>
+    </message>
+    <message id="eventLogEvent17">
+        <source>Event 17</source>
+        <translation>Ereignis 17</translation>
+    </message>
+    <message id="eventLogClass17">
+        <source>Event class 17</source>
+        <translation>Ereignisklasse 17</translation>
+    </message>
+    <message id="eventLogTime17">
+        <source>Event time 17</source>
+        <translation>Ereigniszeit 17</translation>
+    </message>
+    <message id="eventLogEvent18">
+        <source>Event 18</source>
+        <translation>Ereignis 18</translation>
+    </message>
+    <message id="eventLogClass18">
+        <source>Event class 18</source>
+        <translation>Ereignisklasse 18</translation>
+    </message>
+    <message id="eventLogTime18">
+        <source>Event time 18</source>
+        <translation>Ereigniszeit 18</translation>
+    </message>
+    <message id="eventLogEvent19">
+        <source>Event 19</source>
+        <translation>Ereignis 19</translation>
+    </message>
+    <message id="eventLogClass19">
+        <source>Event class 19</source>
+        <translation>Ereignisklasse 19</translation>
+    </message>
+    <message id="eventLogTime19">
+        <source>Event time 19</source>
+        <translation>Ereigniszeit 19</translation>
+    </message>
+    <message id="eventLogEvent20">
+        <source>Event 20</source>
+        <translation>Ereignis 20</translation>
+    </message>
+    <message id="eventLogClass20">
+        <source>Event class 20</source>
+        <translation>Ereignisklasse 20</translation>
+    </message>
+    <message id="eventLogTime20">
+        <source>Event time 20</source>
+        <translation>Ereigniszeit 20</translation>
+    </message>
+    <message id="eventLogEvent21">
+        <source>Event 21</source>
+        <translation>Ereignis 21</translation>
+    </message>
+    <message id="eventLogClass21">
+        <source>Event class 21</source>
+        <translation>Ereignisklasse 21</translation>
+    </message>
+    <message id="eventLogTime21">
+        <source>Event time 21</source>
+        <translation>Ereigniszeit 21</translation>
+    </message>
+    <message id="eventLogEvent22">
+        <source>Event 22</source>
+        <translation>Ereignis 22</translation>
+    </message>
+    <message id="eventLogClass22">
+        <source>Event class 22</source>
+        <translation>Ereignisklasse 22</translation>
+    </message>
+    <message id="eventLogTime22">
+        <source>Event time 22</source>
+        <translation>Ereigniszeit 22</translation>
+    </message>
+    <message id="eventLogEvent23">
+        <source>Event 23</source>
+        <translation>Ereignis 23</translation>
+    </message>
+    <message id="eventLogClass23">
+        <source>Event class 23</source>
+        <translation>Ereignisklasse 23</translation>
+    </message>
+    <message id="eventLogTime23">
+        <source>Event time 23</source>
+        <translation>Ereigniszeit 23</translation>
+    </message>
+    <message id="eventLogEvent24">
+        <source>Event 24</source>
+        <translation>Ereignis 24</translation>
+    </message>
+    <message id="eventLogClass24">
+        <source>Event class 24</source>
+        <translation>Ereignisklasse 24</translation>
+    </message>
+    <message id="eventLogTime24">
+        <source>Event time 24</source>
+        <translation>Ereigniszeit 24</translation>
+    </message>
+    <message id="eventLogEvent25">
+        <source>Event 25</source>
+        <translation>Ereignis 25</translation>
+    </message>
+    <message id="eventLogClass25">
+        <source>Event class 25</source>
+        <translation>Ereignisklasse 25</translation>
+    </message>
+    <message id="eventLogTime25">
+        <source>Event time 25</source>
+        <translation>Ereigniszeit 25</translation>
+    </message>
+    <message id="eventLogEvent26">
+        <source>Event 26</source>
+        <translation>Ereignis 26</translation>
+    </message>
+    <message id="eventLogClass26">
+        <source>Event class 26</source>
+        <translation>Ereignisklasse 26</translation>
+    </message>
+    <message id="eventLogTime26">
+        <source>Event time 26</source>
+        <translation>Ereigniszeit 26</translation>
+    </message>
+    <message id="eventLogEvent27">
+        <source>Event 27</source>
+        <translation>Ereignis 27</translation>
+    </message>
+    <message id="eventLogClass27">
+        <source>Event class 27</source>
+        <translation>Ereignisklasse 27</translation>
+    </message>
+    <message id="eventLogTime27">
+        <source>Event time 27</source>
+        <translation>Ereigniszeit 27</translation>
+    </message>
+    <message id="eventLogEvent28">
+        <source>Event 28</source>
+        <translation>Ereignis 28</translation>
+    </message>
+    <message id="eventLogClass28">
+        <source>Event class 28</source>
+        <translation>Ereignisklasse 28</translation>
+    </message>
+    <message id="eventLogTime28">
+        <source>Event time 28</source>
+        <translation>Ereigniszeit 28</translation>
+    </message>
+    <message id="eventLogEvent29">
+        <source>Event 29</source>
+        <translation>Ereignis 29</translation>
+    </message>
+    <message id="eventLogClass29">
+        <source>Event class 29</source>
+        <translation>Ereignisklasse 29</translation>
+    </message>
+    <message id="eventLogTime29">
+        <source>Event time 29</source>
+        <translation>Ereigniszeit 29</translation>
+    </message>
+    <message id="shell_settingsUnreadable">
+        <source>The settings in %1 cannot be read. The program starts with its usual settings.</source>
+        <translation>Die Einstellungen in %1 sind nicht lesbar. Das Programm startet mit den üblichen Einstellungen.</translation>
+    </message>
+    <message id="vx4400eventElectronicsFailure">
+        <source>Electronics failure</source>
+        <translation>Elektronikausfall</translation>
+    </message>
+    <message id="vx4400eventElectronicsFailureOff">
+        <source>Electronics failure: ended</source>
+        <translation>Elektronikausfall: beendet</translation>
+    </message>
+    <message id="vx4400eventMemoryFailure">
+        <source>Memory failure</source>
+        <translation>Speicherfehler</translation>
+    </message>
+    <message id="vx4400eventMemoryFailureOff">
+        <source>Memory failure: ended</source>
+        <translation>Speicherfehler: beendet</translation>
+    </message>
+    <message id="vx4400eventParameterChecksumError">
+        <source>Parameter checksum error</source>
+        <translation>Prüfsummenfehler der Parameter</translation>
+    </message>
+    <message id="vx4400eventParameterChecksumErrorOff">
+        <source>Parameter checksum error: ended</source>
+        <translation>Prüfsummenfehler der Parameter: beendet</translation>
+    </message>
+    <message id="vx4400eventInternalVoltageLow">
+        <source>Internal supply voltage low</source>
+        <translation>Interne Versorgungsspannung zu niedrig</translation>
+    </message>
+    <message id="vx4400eventInternalVoltageLowOff">
+        <source>Internal supply voltage low: ended</source>
+        <translation>Interne Versorgungsspannung zu niedrig: beendet</translation>
+    </message>
+    <message id="vx4400eventTemperatureHigh">
+        <source>Device temperature high</source>
+        <translation>Gerätetemperatur zu hoch</translation>
+    </message>
+    <message id="vx4400eventTemperatureHighOff">
+        <source>Device temperature high: ended</source>
+        <translation>Gerätetemperatur zu hoch: beendet</translation>
+    </message>
+    <message id="vx4400eventTemperatureLow">
+        <source>Device temperature low</source>
+        <translation>Gerätetemperatur zu niedrig</translation>
+    </message>
+    <message id="vx4400eventTemperatureLowOff">
+        <source>Device temperature low: ended</source>
+        <translation>Gerätetemperatur zu niedrig: beendet</translation>
+    </message>
+    <message id="vx4400eventCoverOpen">
+        <source>Cover open</source>
+        <translation>Gehäusedeckel offen</translation>
+    </message>
+    <message id="vx4400eventCoverOpenOff">
+        <source>Cover open: ended</source>
+        <translation>Gehäusedeckel offen: beendet</translation>
+    </message>
+    <message id="vx4400eventWatchdogReset">
+        <source>Reset by watchdog</source>
+        <translation>Neustart durch Watchdog</translation>
+    </message>
+    <message id="vx4400eventWatchdogResetOff">
+        <source>Reset by watchdog: ended</source>
+        <translation>Neustart durch Watchdog: beendet</translation>
+    </message>
+    <message id="vx4400eventTravelSensorFailure">
+        <source>Travel sensor failure</source>
+        <translation>Ausfall des Wegsensors</translation>
+    </message>
+    <message id="vx4400eventTravelSensorFailureOff">
+        <source>Travel sensor failure: ended</source>
+        <translation>Ausfall des Wegsensors: beendet</translation>
+    </message>
+    <message id="vx4400eventTravelOutOfRange">
+        <source>Travel outside sensor range</source>
+        <translation>Weg außerhalb des Messbereichs</translation>
+    </message>
+    <message id="vx4400eventTravelOutOfRangeOff">
+        <source>Travel outside sensor range: ended</source>
+        <translation>Weg außerhalb des Messbereichs: beendet</translation>
+    </message>
+    <message id="vx4400eventSupplySensorFailure">
+        <source>Supply pressure sensor failure</source>
+        <translation>Ausfall des Zuluftdrucksensors</translation>
+    </message>
+    <message id="vx4400eventSupplySensorFailureOff">
+        <source>Supply pressure sensor failure: ended</source>
+        <translation>Ausfall des Zuluftdrucksensors: beendet</translation>
+    </message>
+    <message id="vx4400eventActuatorSensorFailure">
+        <source>Actuator pressure sensor failure</source>
+        <translation>Ausfall des Antriebsdrucksensors</translation>
+    </message>
+    <message id="vx4400eventActuatorSensorFailureOff">
+        <source>Actuator pressure sensor failure: ended</source>
+        <translation>Ausfall des Antriebsdrucksensors: beendet</translation>
+    </message>
+    <message id="vx4400eventTemperatureSensorFailure">
+        <source>Temperature sensor failure</source>
+        <translation>Ausfall des Temperatursensors</translation>
+    </message>
+    <message id="vx4400eventTemperatureSensorFailureOff">
+        <source>Temperature sensor failure: ended</source>
+        <translation>Ausfall des Temperatursensors: beendet</translation>
+    </message>
+    <message id="vx4400eventSensorDrift">
+        <source>Sensor drift</source>
+        <translation>Sensordrift</translation>
+    </message>
+    <message id="vx4400eventSensorDriftOff">
+        <source>Sensor drift: ended</source>
+        <translation>Sensordrift: beendet</translation>
+    </message>
+    <message id="vx4400eventSupplyPressureLow">
+        <source>Supply pressure low</source>
+        <translation>Zuluftdruck zu niedrig</translation>
+    </message>
+    <message id="vx4400eventSupplyPressureLowOff">
+        <source>Supply pressure low: ended</source>
+        <translation>Zuluftdruck zu niedrig: beendet</translation>
+    </message>
+    <message id="vx4400eventSupplyPressureHigh">
+        <source>Supply pressure high</source>
+        <translation>Zuluftdruck zu hoch</translation>
+    </message>
+    <message id="vx4400eventSupplyPressureHighOff">
+        <source>Supply pressure high: ended</source>
+        <translation>Zuluftdruck zu hoch: beendet</translation>
+    </message>
+    <message id="vx4400eventSupplyPressureUnstable">
+        <source>Supply pressure unstable</source>
+        <translation>Zuluftdruck schwankt</translation>
+    </message>
+    <message id="vx4400eventSupplyPressureUnstableOff">
+        <source>Supply pressure unstable: ended</source>
+        <translation>Zuluftdruck schwankt: beendet</translation>
+    </message>
+    <message id="vx4400eventDriveSaturated">
+        <source>Drive signal at its limit</source>
+        <translation>Stellsignal an der Grenze</translation>
+    </message>
+    <message id="vx4400eventDriveSaturatedOff">
+        <source>Drive signal at its limit: ended</source>
+        <translation>Stellsignal an der Grenze: beendet</translation>
+    </message>
+    <message id="vx4400eventPneumaticLeak">
+        <source>Pneumatic leak</source>
+        <translation>Pneumatische Leckage</translation>
+    </message>
+    <message id="vx4400eventPneumaticLeakOff">
+        <source>Pneumatic leak: ended</source>
+        <translation>Pneumatische Leckage: beendet</translation>
+    </message>
+    <message id="vx4400eventPilotStageFailure">
+        <source>Pilot stage failure</source>
+        <translation>Ausfall der Vorsteuerstufe</translation>
+    </message>
+    <message id="vx4400eventPilotStageFailureOff">
+        <source>Pilot stage failure: ended</source>
+        <translation>Ausfall der Vorsteuerstufe: beendet</translation>
+    </message>
+    <message id="vx4400eventExhaustBlocked">
+        <source>Exhaust blocked</source>
+        <translation>Abluft blockiert</translation>
+    </message>
+    <message id="vx4400eventExhaustBlockedOff">
+        <source>Exhaust blocked: ended</source>
+        <translation>Abluft blockiert: beendet</translation>
+    </message>
+    <message id="vx4400eventTravelDeviation">
+        <source>Travel deviation</source>
+        <translation>Regelabweichung</translation>
+    </message>
+    <message id="vx4400eventTravelDeviationOff">
+        <source>Travel deviation: ended</source>
+        <translation>Regelabweichung: beendet</translation>
+    </message>
+    <message id="vx4400eventValveStuck">
+        <source>Valve stuck</source>
+        <translation>Ventil blockiert</translation>
+    </message>
+    <message id="vx4400eventValveStuckOff">
+        <source>Valve stuck: ended</source>
+        <translation>Ventil blockiert: beendet</translation>
+    </message>
+    <message id="vx4400eventFrictionHigh">
+        <source>Friction high</source>
+        <translation>Reibung zu hoch</translation>
+    </message>
+    <message id="vx4400eventFrictionHighOff">
+        <source>Friction high: ended</source>
+        <translation>Reibung zu hoch: beendet</translation>
+    </message>
+    <message id="vx4400eventFrictionLow">
+        <source>Friction low</source>
+        <translation>Reibung zu niedrig</translation>
+    </message>
+    <message id="vx4400eventFrictionLowOff">
+        <source>Friction low: ended</source>
+        <translation>Reibung zu niedrig: beendet</translation>
+    </message>
+    <message id="vx4400eventStickSlip">
+        <source>Stick-slip motion</source>
+        <translation>Ruckgleiten (Stick-Slip)</translation>
+    </message>
+    <message id="vx4400eventStickSlipOff">
+        <source>Stick-slip motion: ended</source>
+        <translation>Ruckgleiten (Stick-Slip): beendet</translation>
+    </message>
+    <message id="vx4400eventTravelHigh">
+        <source>Travel high alarm</source>
+        <translation>Wegalarm oben</translation>
+    </message>
+    <message id="vx4400eventTravelHighOff">
+        <source>Travel high alarm: ended</source>
+        <translation>Wegalarm oben: beendet</translation>
+    </message>
+    <message id="vx4400eventTravelLow">
+        <source>Travel low alarm</source>
+        <translation>Wegalarm unten</translation>
+    </message>
+    <message id="vx4400eventTravelLowOff">
+        <source>Travel low alarm: ended</source>
+        <translation>Wegalarm unten: beendet</translation>
+    </message>
+    <message id="vx4400eventCycleCounterLimit">
+        <source>Cycle counter limit exceeded</source>
+        <translation>Grenzwert des Zyklenzählers überschritten</translation>
+    </message>
+    <message id="vx4400eventCycleCounterLimitOff">
+        <source>Cycle counter limit exceeded: ended</source>
+        <translation>Grenzwert des Zyklenzählers überschritten: beendet</translation>
+    </message>
+    <message id="vx4400eventTravelSumLimit">
+        <source>Total travel limit exceeded</source>
+        <translation>Grenzwert der Wegsumme überschritten</translation>
+    </message>
+    <message id="vx4400eventTravelSumLimitOff">
+        <source>Total travel limit exceeded: ended</source>
+        <translation>Grenzwert der Wegsumme überschritten: beendet</translation>
+    </message>
+    <message id="vx4400eventSpringFailure">
+        <source>Actuator spring failure</source>
+        <translation>Bruch der Antriebsfeder</translation>
+    </message>
+    <message id="vx4400eventSpringFailureOff">
+        <source>Actuator spring failure: ended</source>
+        <translation>Bruch der Antriebsfeder: beendet</translation>
+    </message>
+    <message id="vx4400eventSeatWear">
+        <source>Seat wear</source>
+        <translation>Verschleiß des Sitzes</translation>
+    </message>
+    <message id="vx4400eventSeatWearOff">
+        <source>Seat wear: ended</source>
+        <translation>Verschleiß des Sitzes: beendet</translation>
+    </message>
+    <message id="vx4400eventPackingLeak">
+        <source>Packing leak</source>
+        <translation>Leckage der Stopfbuchse</translation>
+    </message>
+    <message id="vx4400eventPackingLeakOff">
+        <source>Packing leak: ended</source>
+        <translation>Leckage der Stopfbuchse: beendet</translation>
+    </message>
+    <message id="vx4400eventSignalLow">
+        <source>Input signal low</source>
+        <translation>Eingangssignal zu niedrig</translation>
+    </message>
+    <message id="vx4400eventSignalLowOff">
+        <source>Input signal low: ended</source>
+        <translation>Eingangssignal zu niedrig: beendet</translation>
+    </message>
+    <message id="vx4400eventSignalHigh">
+        <source>Input signal high</source>
+        <translation>Eingangssignal zu hoch</translation>
+    </message>
+    <message id="vx4400eventSignalHighOff">
+        <source>Input signal high: ended</source>
+        <translation>Eingangssignal zu hoch: beendet</translation>
+    </message>
+    <message id="vx4400eventSetpointOscillating">
+        <source>Set point oscillates</source>
+        <translation>Sollwert schwingt</translation>
+    </message>
+    <message id="vx4400eventSetpointOscillatingOff">
+        <source>Set point oscillates: ended</source>
+        <translation>Sollwert schwingt: beendet</translation>
+    </message>
+    <message id="vx4400eventCavitation">
+        <source>Cavitation</source>
+        <translation>Kavitation</translation>
+    </message>
+    <message id="vx4400eventCavitationOff">
+        <source>Cavitation: ended</source>
+        <translation>Kavitation: beendet</translation>
+    </message>
+    <message id="vx4400eventSafetyShutdown">
+        <source>Safety shutdown active</source>
+        <translation>Sicherheitsabschaltung aktiv</translation>
+    </message>
+    <message id="vx4400eventSafetyShutdownOff">
+        <source>Safety shutdown active: ended</source>
+        <translation>Sicherheitsabschaltung aktiv: beendet</translation>
+    </message>
+    <message id="vx4400eventStrokeTestFailed">
+        <source>Stroke test failed</source>
+        <translation>Hubtest fehlgeschlagen</translation>
+    </message>
+    <message id="vx4400eventStrokeTestFailedOff">
+        <source>Stroke test failed: ended</source>
+        <translation>Hubtest fehlgeschlagen: beendet</translation>
+    </message>
+    <message id="vx4400eventStrokeTestOverdue">
+        <source>Stroke test overdue</source>
+        <translation>Hubtest überfällig</translation>
+    </message>
+    <message id="vx4400eventStrokeTestOverdueOff">
+        <source>Stroke test overdue: ended</source>
+        <translation>Hubtest überfällig: beendet</translation>
+    </message>
+    <message id="vx4400eventSimulationActive">
+        <source>Simulation active</source>
+        <translation>Simulation aktiv</translation>
+    </message>
+    <message id="vx4400eventSimulationActiveOff">
+        <source>Simulation active: ended</source>
+        <translation>Simulation aktiv: beendet</translation>
+    </message>
+    <message id="vx4400eventLocalOperation">
+        <source>Local operation</source>
+        <translation>Vor-Ort-Bedienung</translation>
+    </message>
+    <message id="vx4400eventLocalOperationOff">
+        <source>Local operation: ended</source>
+        <translation>Vor-Ort-Bedienung: beendet</translation>
+    </message>
+    <message id="vx4400eventLoopCurrentFixed">
+        <source>Loop current fixed</source>
+        <translation>Schleifenstrom fest eingestellt</translation>
+    </message>
+    <message id="vx4400eventLoopCurrentFixedOff">
+        <source>Loop current fixed: ended</source>
+        <translation>Schleifenstrom fest eingestellt: beendet</translation>
+    </message>
+    <message id="vx4400eventBusTimeout">
+        <source>Bus communication interrupted</source>
+        <translation>Buskommunikation unterbrochen</translation>
+    </message>
+    <message id="vx4400eventBusTimeoutOff">
+        <source>Bus communication interrupted: ended</source>
+        <translation>Buskommunikation unterbrochen: beendet</translation>
+    </message>
+    <message id="vx4400eventNotCalibrated">
+        <source>Travel not calibrated</source>
+        <translation>Weg nicht kalibriert</translation>
+    </message>
+    <message id="vx4400eventNotCalibratedOff">
+        <source>Travel not calibrated: ended</source>
+        <translation>Weg nicht kalibriert: beendet</translation>
+    </message>
+    <message id="vx4400eventCalibrationRunning">
+        <source>Calibration running</source>
+        <translation>Kalibrierung läuft</translation>
+    </message>
+    <message id="vx4400eventCalibrationRunningOff">
+        <source>Calibration running: ended</source>
+        <translation>Kalibrierung läuft: beendet</translation>
+    </message>
+    <message id="vx4400eventWriteProtected">
+        <source>Write protection on</source>
+        <translation>Schreibschutz aktiv</translation>
+    </message>
+    <message id="vx4400eventWriteProtectedOff">
+        <source>Write protection on: ended</source>
+        <translation>Schreibschutz aktiv: beendet</translation>
+    </message>
+    <message id="vx4400eventMaintenanceDue">
+        <source>Maintenance due</source>
+        <translation>Wartung fällig</translation>
+    </message>
+    <message id="vx4400eventMaintenanceDueOff">
+        <source>Maintenance due: ended</source>
+        <translation>Wartung fällig: beendet</translation>
+    </message>
+    <message id="vx4400eventMasks">
+        <source>Status configuration</source>
+        <translation>Statuskonfiguration</translation>
+    </message>
+    <message id="vx4400eventMasksOff">
+        <source>Status configuration: ended</source>
+        <translation>Statuskonfiguration: beendet</translation>
+    </message>
+    <message id="vx4400eventMask1">
+        <source>Status mask, part 1</source>
+        <translation>Statusmaske, Teil 1</translation>
+    </message>
+    <message id="vx4400eventMask1Off">
+        <source>Status mask, part 1: ended</source>
+        <translation>Statusmaske, Teil 1: beendet</translation>
+    </message>
+    <message id="vx4400eventMaskInfo1">
+        <source>Information mask, part 1</source>
+        <translation>Maske Information, Teil 1</translation>
+    </message>
+    <message id="vx4400eventMaskInfo1Off">
+        <source>Information mask, part 1: ended</source>
+        <translation>Maske Information, Teil 1: beendet</translation>
+    </message>
+    <message id="vx4400eventMaskWarning1">
+        <source>Warning mask, part 1</source>
+        <translation>Maske Warnung, Teil 1</translation>
+    </message>
+    <message id="vx4400eventMaskWarning1Off">
+        <source>Warning mask, part 1: ended</source>
+        <translation>Maske Warnung, Teil 1: beendet</translation>
+    </message>
+    <message id="vx4400eventMaskAlarm1">
+        <source>Alarm mask, part 1</source>
+        <translation>Maske Alarm, Teil 1</translation>
+    </message>
+    <message id="vx4400eventMaskAlarm1Off">
+        <source>Alarm mask, part 1: ended</source>
+        <translation>Maske Alarm, Teil 1: beendet</translation>
+    </message>
+    <message id="vx4400eventMaskOnOff1">
+        <source>On/off mask, part 1</source>
+        <translation>Ein/Aus-Maske, Teil 1</translation>
+    </message>
+    <message id="vx4400eventMaskOnOff1Off">
+        <source>On/off mask, part 1: ended</source>
+        <translation>Ein/Aus-Maske, Teil 1: beendet</translation>
+    </message>
+    <message id="vx4400eventMask2">
+        <source>Status mask, part 2</source>
+        <translation>Statusmaske, Teil 2</translation>
+    </message>
+    <message id="vx4400eventMask2Off">
+        <source>Status mask, part 2: ended</source>
+        <translation>Statusmaske, Teil 2: beendet</translation>
+    </message>
+    <message id="vx4400eventMaskInfo2">
+        <source>Information mask, part 2</source>
+        <translation>Maske Information, Teil 2</translation>
+    </message>
+    <message id="vx4400eventMaskInfo2Off">
+        <source>Information mask, part 2: ended</source>
+        <translation>Maske Information, Teil 2: beendet</translation>
+    </message>
+    <message id="vx4400eventMaskWarning2">
+        <source>Warning mask, part 2</source>
+        <translation>Maske Warnung, Teil 2</translation>
+    </message>
+    <message id="vx4400eventMaskWarning2Off">
+        <source>Warning mask, part 2: ended</source>
+        <translation>Maske Warnung, Teil 2: beendet</translation>
+    </message>
+    <message id="vx4400eventMaskAlarm2">
+        <source>Alarm mask, part 2</source>
+        <translation>Maske Alarm, Teil 2</translation>
+    </message>
+    <message id="vx4400eventMaskAlarm2Off">
+        <source>Alarm mask, part 2: ended</source>
+        <translation>Maske Alarm, Teil 2: beendet</translation>
+    </message>
+    <message id="vx4400eventMaskOnOff2">
+        <source>On/off mask, part 2</source>
+        <translation>Ein/Aus-Maske, Teil 2</translation>
+    </message>
+    <message id="vx4400eventMaskOnOff2Off">
+        <source>On/off mask, part 2: ended</source>
+        <translation>Ein/Aus-Maske, Teil 2: beendet</translation>
+    </message>
+    <message id="vx4400eventMask3">
+        <source>Status mask, part 3</source>
+        <translation>Statusmaske, Teil 3</translation>
+    </message>
+    <message id="vx4400eventMask3Off">
+        <source>Status mask, part 3: ended</source>
+        <translation>Statusmaske, Teil 3: beendet</translation>
+    </message>
+    <message id="vx4400eventMaskInfo3">
+        <source>Information mask, part 3</source>
+        <translation>Maske Information, Teil 3</translation>
+    </message>
+    <message id="vx4400eventMaskInfo3Off">
+        <source>Information mask, part 3: ended</source>
+        <translation>Maske Information, Teil 3: beendet</translation>
+    </message>
+    <message id="vx4400eventMaskWarning3">
+        <source>Warning mask, part 3</source>
+        <translation>Maske Warnung, Teil 3</translation>
+    </message>
+    <message id="vx4400eventMaskWarning3Off">
+        <source>Warning mask, part 3: ended</source>
+        <translation>Maske Warnung, Teil 3: beendet</translation>
+    </message>
+    <message id="vx4400eventMaskAlarm3">
+        <source>Alarm mask, part 3</source>
+        <translation>Maske Alarm, Teil 3</translation>
+    </message>
+    <message id="vx4400eventMaskAlarm3Off">
+        <source>Alarm mask, part 3: ended</source>
+        <translation>Maske Alarm, Teil 3: beendet</translation>
+    </message>
+    <message id="vx4400eventMaskOnOff3">
+        <source>On/off mask, part 3</source>
+        <translation>Ein/Aus-Maske, Teil 3</translation>
+    </message>
+    <message id="vx4400eventMaskOnOff3Off">
+        <source>On/off mask, part 3: ended</source>
+        <translation>Ein/Aus-Maske, Teil 3: beendet</translation>
+    </message>
+    <message id="statusNotRead">
+        <source>not read yet</source>
+        <translation>noch nicht gelesen</translation>
+    </message>
+    <message id="statusActive">
+        <source>active</source>
+        <translation>aktiv</translation>
+    </message>
+    <message id="statusNotActive">
+        <source>not active</source>
+        <translation>nicht aktiv</translation>
+    </message>
+    <message id="statusSwitchedOff">
+        <source>switched off</source>
+        <translation>ausgeschaltet</translation>
+    </message>
+    <message id="statusUnknown">
+        <source>unknown</source>
+        <translation>unbekannt</translation>
+    </message>
+    <message id="shell_sectionLiveValues">
+        <source>Live values</source>
+        <translation>Aktuelle Werte</translation>
+    </message>
+    <message id="shell_sectionLimits">
+        <source>Limits of the diagnosis</source>
+        <translation>Grenzwerte der Diagnose</translation>
+    </message>
+    <message id="liveValues">
+        <source>Live values</source>
+        <translation>Aktuelle Werte</translation>
+    </message>
+    <message id="diagnosisLimits">
+        <source>Diagnosis limits</source>
+        <translation>Grenzwerte der Diagnose</translation>
+    </message>
+    <message id="failsafeAction">
+        <source>On loss of signal</source>
+        <translation>Bei Signalausfall</translation>
+    </message>
+    <message id="failsafeDelay">
+        <source>Delay of this action</source>
+        <translation>Verzögerung dieser Aktion</translation>
+    </message>
+    <message id="serviceInterval">
+        <source>Service interval</source>
+        <translation>Wartungsintervall</translation>
+    </message>
+    <message id="options">
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message id="shell_pageOptions">
+        <source>Options</source>
+        <translation>Optionen</translation>
+    </message>
+    <message id="shell_sectionFailsafe">
+        <source>Fail-safe behaviour and service</source>
+        <translation>Fehlerverhalten und Wartung</translation>
+    </message>
+    <message id="shell_sectionAlarmMask">
+        <source>Monitoring</source>
+        <translation>Überwachung</translation>
+    </message>
+    <message id="shell_settings">
+        <source>&amp;Settings…</source>
+        <translation>&amp;Einstellungen…</translation>
+    </message>
+    <message id="shell_settingsTip">
+        <source>Language, display units and classification</source>
+        <translation>Sprache, Anzeigeeinheiten und Klassifizierung</translation>
+    </message>
+    <message id="shell_restartDevice">
+        <source>Restart &amp;device</source>
+        <translation>&amp;Gerät neu starten</translation>
+    </message>
+    <message id="shell_restartDeviceTip">
+        <source>The power of the simulated device goes and comes back</source>
+        <translation>Die Versorgung des simulierten Geräts fällt aus und kehrt zurück</translation>
+    </message>
+    <message id="shell_simulationMeter">
+        <source>Meter in the loop</source>
+        <translation>Messgerät in der Schleife</translation>
+    </message>
+    <message id="shell_addressRefused">
+        <source>The device did not take the address.</source>
+        <translation>Das Gerät hat die Adresse nicht angenommen.</translation>
+    </message>
+    <message id="shell_addressChanged">
+        <source>The device has the address %1 now.</source>
+        <translation>Das Gerät hat jetzt die Adresse %1.</translation>
+    </message>
+    <message id="shell_documentKept">
+        <source>The bus configuration was saved.</source>
+        <translation>Die Buskonfiguration wurde gespeichert.</translation>
+    </message>
+    <message id="paTag">
+        <source>Tag</source>
+        <translation>Messstellenkennzeichen</translation>
+    </message>
+    <message id="busAddress">
+        <source>Bus address</source>
+        <translation>Busadresse</translation>
+    </message>
 </context>
 </TS>

@@ -472,5 +472,71 @@ TEST_F(Store, BytesThatAreNoTextOfTheirEncodingAreRefused)
     EXPECT_EQ(store.bytes(), kFile);
 }
 
+// --- Values that a view writes without a report
+// ---------------------------------------------------
+
+TEST_F(Store, WhatAViewSendsStaysUntilTheDeviceHasAnswered)
+{
+    editorWrites("gain", "6", "noUnit");
+    store.keepSent(documents::openText("<communicationRequest name='m' access='write'>"
+                                       "<item name='gain'><floatVal>6</floatVal></item>"
+                                       "</communicationRequest>"));
+    EXPECT_TRUE(store.hasSent());
+    store.beginLoading();
+    store.endLoading();
+    EXPECT_EQ(working("gain"), "6|noUnit|0");
+    EXPECT_EQ(saved("gain"), "6||0");
+    EXPECT_EQ(store.editCount(), 0U) << "there is no editor to list it";
+
+    store.beginResponse(test::okResponse(
+        "all", "<comm:item name='gain'><comm:floatVal>7</comm:floatVal></comm:item>"));
+    store.endResponse();
+    EXPECT_FALSE(store.hasSent());
+    EXPECT_EQ(working("gain"), "7||1") << "as the device has it";
+}
+
+TEST_F(Store, WhatTheDeviceRefusesStaysSent)
+{
+    editorWrites("pressure", "3", "bar");
+    store.keepSent(
+        documents::openText("<r><item name='pressure'><floatVal>3</floatVal></item></r>"));
+    store.beginResponse(test::response("name='all' access='write' responseStatus='error' "
+                                       "errorCode='refused' isFinal='1'",
+                                       "<comm:item name='pressure'/>"));
+    store.endResponse();
+    EXPECT_TRUE(store.hasSent());
+    EXPECT_EQ(working("pressure"), "3|bar|0");
+}
+
+TEST_F(Store, WhatIsSentUnchangedIsNoChange)
+{
+    store.keepSent(documents::openText("<r><item name='gain'><floatVal>5</floatVal></item>"
+                                       "<item name='nobody'/></r>"));
+    EXPECT_FALSE(store.hasSent());
+    EXPECT_EQ(store.bytes(), kFile);
+}
+
+// --- Who reads --------------------------------------------------------------------------------
+
+TEST_F(Store, TheTimeOfLastReadIsThatOfAUser)
+{
+    const auto response = test::okResponse(
+        "all", "<comm:item name='gain'><comm:floatVal>5</comm:floatVal></comm:item>");
+    store.beginResponse(response, ReadBy::program);
+    store.endResponse();
+    EXPECT_FALSE(store.hasUnsavedChanges());
+    store.beginResponse(response, ReadBy::user);
+    store.endResponse();
+    EXPECT_TRUE(store.hasUnsavedChanges());
+}
+
+TEST_F(Store, AReadingWithoutParametersIsNoReadingOfTheDatafile)
+{
+    store.beginResponse(test::okResponse(
+        "all", "<comm:item name='condition'><comm:integerVal>1</comm:integerVal></comm:item>"));
+    store.endResponse();
+    EXPECT_FALSE(store.hasUnsavedChanges());
+}
+
 } // namespace
 } // namespace quill::shell

@@ -2,6 +2,7 @@
 #include "shell/tour.h"
 #include "window_fixture.h"
 
+#include <QDir>
 #include <QFile>
 #include <QImage>
 #include <QPushButton>
@@ -222,8 +223,13 @@ TEST_F(RoadOfOneValue, TheTourGoesWellAndLeavesPicturesAndAnAccount)
     EXPECT_EQ(takeTour(options), 0);
     const std::string account = folder.read("out/account.txt");
     EXPECT_NE(account.find("All went well"), std::string::npos) << account;
-    const QImage sharp(options.tourFolder + "/18-configuration-192dpi.png");
-    const QImage plain(options.tourFolder + "/02-configuration-offline.png");
+    const auto picture = [&](const QString& name) {
+        const QDir files(options.tourFolder, "*-" + name + ".png");
+        return QImage(files.count() == 1 ? files.filePath(files[0]) : QString{});
+    };
+    const QImage sharp = picture("configuration-192dpi");
+    const QImage plain = picture("configuration-offline");
+    EXPECT_GT(plain.width(), 0);
     EXPECT_EQ(sharp.width(), 2 * plain.width());
     openWindow(); // what the fixture lets go of
 }

@@ -43,6 +43,8 @@ protected:
     void openWindow()
     {
         window = std::make_unique<MainWindow>(&dialogs);
+        // Nothing happens by itself: a test that wants the status reads it.
+        window->statusCycle().setInterval(std::chrono::milliseconds{0});
         QObject::connect(&messenger(), &ShellMessenger::onlineDataArrived, window.get(),
                          [this](const IXMLDOMNode& response) { keep(response); });
         QObject::connect(&messenger(), &ShellMessenger::errorDataArrived, window.get(),
@@ -81,7 +83,7 @@ protected:
     }
     void waitForDevice()
     {
-        ASSERT_TRUE(userInput::wait([this] { return !messenger().link().isBusy(); }));
+        ASSERT_TRUE(userInput::wait([this] { return !messenger().isWaiting(); }));
     }
     void read(const std::string& group)
     {

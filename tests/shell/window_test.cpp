@@ -65,10 +65,10 @@ TEST_F(Window, ArrowKeysWalkTheTreeAndEnterLeadsIntoThePage)
     auto* tree = window->findChild<QTreeWidget*>("pages");
     tree->setFocus();
     userInput::press(*tree, Qt::Key_Down);
-    EXPECT_EQ(window->book().GetSelectedView(), "configuration");
+    EXPECT_EQ(window->book().GetSelectedView(), "hartAddress");
     EXPECT_TRUE(tree->hasFocus());
     userInput::press(*tree, Qt::Key_Down);
-    EXPECT_EQ(window->book().GetSelectedView(), "tuning");
+    EXPECT_EQ(window->book().GetSelectedView(), "configuration");
     userInput::press(*tree, Qt::Key_Return);
     EXPECT_FALSE(tree->hasFocus());
     EXPECT_TRUE(window->view().isAncestorOf(QApplication::focusWidget()));
@@ -78,6 +78,7 @@ TEST_F(Window, TheTabKeyLeadsFromTheTreeOverThePageToTheLog)
 {
     auto* tree = window->findChild<QTreeWidget*>("pages");
     tree->setFocus();
+    userInput::press(*tree, Qt::Key_Down);
     userInput::press(*tree, Qt::Key_Down);
     userInput::press(*tree, Qt::Key_Tab);
     EXPECT_EQ(QApplication::focusWidget(), &shown(editor<CtrComboEdit>("valveType").cboBox));
@@ -364,7 +365,7 @@ TEST_F(Window, EveryParameterOfTheBuiltInPagesIsInTheSampleAndHasALabel)
     for (const auto& page : window->book().pages()) {
         for (const auto& section : page->description().sections) {
             for (const auto& row : section.rows) {
-                EXPECT_TRUE(editor(row.parameter).IsInitialized()) << row.parameter;
+                EXPECT_TRUE(editor<EditorCore>(row.parameter).IsInitialized()) << row.parameter;
                 EXPECT_FALSE(page->labelOf(row.parameter)->Caption.get().starts_with("Err:"))
                     << row.parameter;
             }

@@ -1,9 +1,14 @@
-#include "shell/page.h"
+#include "shell/editor_page.h"
 
+#include "editors/CtrCheckEdit.h"
 #include "editors/CtrComboEdit.h"
 #include "editors/CtrDateEdit.h"
+#include "editors/CtrOptionEdit.h"
 #include "editors/CtrTextEdit.h"
+#include "editors/CtrTimeEdit.h"
+#include "framework/documents.h"
 #include "platform/toolkit.h"
+#include "shell/forwarding_messenger.h"
 
 #include <algorithm>
 
@@ -25,6 +30,11 @@ constexpr std::int32_t kLongText     = 20;   ///< characters
 constexpr std::int32_t kArrowWidth   = 600;  ///< of a drop-down list
 constexpr std::int32_t kSignsWidth   = 400;  ///< right of a box, with their gap
 constexpr std::int32_t kUnitRoom     = 900;
+constexpr std::int32_t kMarkWidth    = 450; ///< of an option, with its gap
+constexpr std::int32_t kCheckWidth   = 720; ///< of sign and mark of a row of checks
+constexpr std::int32_t kCheckHeight  = 375;
+constexpr std::int32_t kCheckBorder  = 120;
+constexpr std::int32_t kDuration     = 4500; ///< boxes for days, hours, minutes and seconds
 constexpr std::int32_t kButtonMargin = 420;
 
 std::int32_t textWidth(const std::string& text)
@@ -33,19 +43,29 @@ std::int32_t textWidth(const std::string& text)
 }
 
 /// Width of the box that shows every entry of a list.
-std::int32_t listWidth(const EditorBase& editor)
+std::int32_t listWidth(const EditorCore& editor)
 {
     std::int32_t width = kBoxWidth;
     if (const auto* combo = dynamic_cast<const CtrComboEdit*>(&editor)) {
         for (const auto& entry : combo->cboBox.List()) {
             width = std::max(width, textWidth(entry) + kArrowWidth);
         }
+    } else if (const auto* options = dynamic_cast<const CtrOptionEdit*>(&editor)) {
+        for (std::size_t place = 0; place < options->OptionCount(); ++place) {
+            width = std::max(width, textWidth(options->Option(place).Caption) + kMarkWidth);
+        }
+    } else if (const auto* checks = dynamic_cast<const CtrCheckEdit*>(&editor)) {
+        for (int row = 1; row <= checks->scgCheck.RowCount(); ++row) {
+            width = std::max(width, textWidth(checks->scgCheck.cell(row, 2).Text) + kCheckWidth);
+        }
+    } else if (dynamic_cast<const CtrTimeEdit*>(&editor) != nullptr) {
+        width = kDuration;
     }
     return width;
 }
 
 /// Width of the box that suits what the editor can hold, beside others of a usual width.
-std::int32_t boxWidth(const EditorBase& editor, std::int32_t usual)
+std::int32_t boxWidth(const EditorCore& editor, std::int32_t usual)
 {
     if (const auto* text = dynamic_cast<const CtrTextEdit*>(&editor)) {
         const bool isLong =
@@ -55,19 +75,22 @@ std::int32_t boxWidth(const EditorBase& editor, std::int32_t usual)
     return usual;
 }
 
-std::int32_t unitWidth(const EditorBase& editor)
+std::int32_t unitWidth(const EditorCore& editor)
 {
     const auto* text = dynamic_cast<const CtrTextEdit*>(&editor);
     return text != nullptr ? textWidth(text->Unit()) : 0;
 }
 
-std::unique_ptr<EditorBase> makeEditor(platform::Frame& frame, const PageRow& row)
+std::unique_ptr<EditorCore> makeEditor(platform::Frame& frame, const PageRow& row)
 {
     const platform::Design design{
         .Name = row.parameter, .Tag = "ctr_" + row.parameter, .Height = kRowHeight};
     switch (row.kind) {
     case PageRow::Kind::combo: return std::make_unique<CtrComboEdit>(frame, design);
     case PageRow::Kind::text: return std::make_unique<CtrTextEdit>(frame, design);
+    case PageRow::Kind::option: return std::make_unique<CtrOptionEdit>(frame, design);
+    case PageRow::Kind::check: return std::make_unique<CtrCheckEdit>(frame, design);
+    case PageRow::Kind::duration: return std::make_unique<CtrTimeEdit>(frame, design);
     case PageRow::Kind::date:
     case PageRow::Kind::time: break;
     }
@@ -78,9 +101,28 @@ std::unique_ptr<EditorBase> makeEditor(platform::Frame& frame, const PageRow& ro
     return editor;
 }
 
+/// For an editor whose rows report for themselves under the one name of the parameter: that one of
+/// them is as it was does not mean that the parameter is.
+class RowsMessenger : public ForwardingMessenger {
+public:
+    RowsMessenger(Messenger& other, const EditorCore& editor)
+        : ForwardingMessenger(other), mEditor(editor)
+    {
+    }
+
+    void SetParameterState(const std::string& parameterName, const std::string& state) override
+    {
+        const bool isOtherwise = state == "original" && mEditor.Modified();
+        ForwardingMessenger::SetParameterState(parameterName, isOtherwise ? "edited" : state);
+    }
+
+private:
+    const EditorCore& mEditor;
+};
+
 } // namespace
 
-struct Page::Row {
+struct EditorPage::Row {
     Row(platform::Frame& section, const PageRow& row)
         : parameter(row.parameter),
           label(section, {.Name = "lbl_" + row.parameter, .Tag = "ctr_" + row.parameter}),
@@ -92,11 +134,12 @@ struct Page::Row {
     std::string                 parameter;
     platform::Label             label;
     platform::Frame             frame;
-    std::unique_ptr<EditorBase> editor;
+    std::unique_ptr<EditorCore> editor;
+    std::unique_ptr<Messenger>  messenger; ///< of an editor that needs one of its own
 };
 
-struct Page::Section {
-    Section(Page& page, const PageSection& description)
+struct EditorPage::Section {
+    Section(EditorPage& page, const PageSection& description)
         : title(description.title), group(description.group),
           frame(page, {.Name = "section_" + description.title, .Tag = description.title})
     {
@@ -112,18 +155,17 @@ struct Page::Section {
     platform::Subscription                   onRead;
 };
 
-Page::Page(platform::Widget& container, const PageDescription& description)
-    : ViewBase(container, {.Name = description.tag, .Tag = description.tag}),
-      mDescription(description)
+EditorPage::EditorPage(platform::Widget& container, const PageDescription& description)
+    : Page(container, description)
 {
-    for (const auto& section : mDescription.sections) {
+    for (const auto& section : this->description().sections) {
         addSection(section);
     }
 }
 
-Page::~Page() = default;
+EditorPage::~EditorPage() = default;
 
-void Page::addSection(const PageSection& description)
+void EditorPage::addSection(const PageSection& description)
 {
     auto& section = *mSections.emplace_back(std::make_unique<Section>(*this, description));
     for (const auto& row : description.rows) {
@@ -134,12 +176,12 @@ void Page::addSection(const PageSection& description)
     }
 }
 
-void Page::addRow(Section& section, const PageRow& row)
+void EditorPage::addRow(Section& section, const PageRow& row)
 {
     section.rows.push_back(std::make_unique<Row>(section.frame, row));
 }
 
-void Page::addReading(Section& section)
+void EditorPage::addReading(Section& section)
 {
     const std::string& group = section.group;
     section.lblRead          = std::make_unique<platform::Label>(
@@ -160,7 +202,7 @@ void Page::addReading(Section& section)
     });
 }
 
-Page::Row* Page::row(const std::string& parameter) const
+EditorPage::Row* EditorPage::row(const std::string& parameter) const
 {
     for (const auto& section : mSections) {
         for (const auto& row : section->rows) {
@@ -172,19 +214,19 @@ Page::Row* Page::row(const std::string& parameter) const
     return nullptr;
 }
 
-EditorBase* Page::find(const std::string& parameter) const
+EditorCore* EditorPage::find(const std::string& parameter) const
 {
     Row* const found = row(parameter);
     return found != nullptr ? found->editor.get() : nullptr;
 }
 
-platform::Label* Page::labelOf(const std::string& parameter) const
+platform::Label* EditorPage::labelOf(const std::string& parameter) const
 {
     Row* const found = row(parameter);
     return found != nullptr ? &found->label : nullptr;
 }
 
-platform::CommandButton* Page::readButton(const std::string& group) const
+platform::CommandButton* EditorPage::readButton(const std::string& group) const
 {
     for (const auto& section : mSections) {
         if (section->group == group) {
@@ -194,7 +236,7 @@ platform::CommandButton* Page::readButton(const std::string& group) const
     return nullptr;
 }
 
-std::vector<std::string> Page::groups() const
+std::vector<std::string> EditorPage::groups() const
 {
     std::vector<std::string> result;
     for (const auto& section : mSections) {
@@ -208,7 +250,7 @@ std::vector<std::string> Page::groups() const
     return result;
 }
 
-bool Page::hasEdits(const std::string& group) const
+bool EditorPage::hasEdits(const std::string& group) const
 {
     for (const auto& section : mSections) {
         for (const auto& row : section->rows) {
@@ -220,9 +262,24 @@ bool Page::hasEdits(const std::string& group) const
     return false;
 }
 
+bool EditorPage::findsItem(const IXMLDOMNodeList& items) const
+{
+    for (const IXMLDOMNode& item : items) {
+        if (find(documents::attributeText(item, "name")) != nullptr) {
+            return true;
+        }
+    }
+    return false;
+}
+
+bool EditorPage::isConcernedBy(const IXMLDOMNode& errorResponse) const
+{
+    return findsItem(documents::errorItems(errorResponse));
+}
+
 // --- Layout -----------------------------------------------------------------------------------
 
-std::int32_t Page::labelWidth() const
+std::int32_t EditorPage::labelWidth() const
 {
     std::int32_t width = 0;
     for (const auto& section : mSections) {
@@ -233,7 +290,7 @@ std::int32_t Page::labelWidth() const
     return width;
 }
 
-std::int32_t Page::fill(Section& section, std::int32_t labelWidth)
+std::int32_t EditorPage::fill(Section& section, std::int32_t labelWidth)
 {
     const std::int32_t editorLeft = kMargin + labelWidth + kGap;
     std::int32_t       needed     = 0;
@@ -243,6 +300,9 @@ std::int32_t Page::fill(Section& section, std::int32_t labelWidth)
         usual = std::max(usual, listWidth(*row->editor));
     }
     for (const auto& row : section.rows) {
+        if (const auto* checks = dynamic_cast<const CtrCheckEdit*>(row->editor.get())) {
+            row->editor->Height = checks->scgCheck.RowCount() * kCheckHeight + kCheckBorder;
+        }
         row->label.Left        = kMargin;
         row->label.Top         = top + kTextTop;
         row->label.Width       = labelWidth;
@@ -251,11 +311,12 @@ std::int32_t Page::fill(Section& section, std::int32_t labelWidth)
         row->editor->Width     = box + unitWidth(*row->editor) + kSignsWidth;
         row->frame.Left        = editorLeft;
         row->frame.Top         = top;
-        row->frame.Height      = kRowHeight;
+        // Options and checks are several lines high.
+        row->frame.Height = std::max(kRowHeight, row->editor->Height.get());
         // A unit that comes with a value later on finds its room.
         row->frame.Width = box + kUnitRoom + kSignsWidth;
         needed           = std::max(needed, editorLeft + row->frame.Width.get());
-        top += kRowPitch;
+        top += row->frame.Height + kRowPitch - kRowHeight;
     }
     section.frame.Height = top + kGap;
     if (section.cmdRead) {
@@ -268,9 +329,11 @@ std::int32_t Page::fill(Section& section, std::int32_t labelWidth)
     return needed + kMargin;
 }
 
-void Page::layOut(std::int32_t width)
+void EditorPage::layOut(const PageSpace& space)
 {
-    mLaidOutFor = width;
+    mLaidOutFor = space;
+    // Room for the bar is always kept, or its coming and going would change what it depends on.
+    const std::int32_t width = space.width - space.bar;
     // Sections side by side have one width, so that what belongs together stands in line.
     const std::int32_t labels = labelWidth();
     std::int32_t       needed = 0;
@@ -315,17 +378,28 @@ void Page::layOut(std::int32_t width)
 
 // --- Host contract ----------------------------------------------------------------------------
 
-void Page::setMode(Section& section, std::int32_t mode)
+void EditorPage::setMode(Section& section, std::int32_t mode)
 {
     if (section.cmdRead) {
         section.cmdRead->Enabled = mode == kOnline;
     }
 }
 
-void Page::SetMessenger(Messenger* messenger)
+void EditorPage::SetMessenger(Messenger* messenger)
 {
-    ViewBase::SetMessenger(messenger);
+    Page::SetMessenger(messenger);
     mOnMode.drop();
+    for (const auto& section : mSections) {
+        for (const auto& row : section->rows) {
+            auto own = messenger != nullptr && dynamic_cast<CtrCheckEdit*>(row->editor.get())
+                           ? std::make_unique<RowsMessenger>(*messenger, *row->editor)
+                           : nullptr;
+            if (own) {
+                row->editor->SetMessenger(own.get());
+            }
+            row->messenger = std::move(own);
+        }
+    }
     if (messenger == nullptr) {
         return;
     }
@@ -338,7 +412,7 @@ void Page::SetMessenger(Messenger* messenger)
     follow(messenger->GetCommunicationMode());
 }
 
-void Page::Localize(Translator& translator)
+void EditorPage::Localize(Translator& translator)
 {
     ViewBase::Localize(translator);
     for (const auto& section : mSections) {
@@ -347,13 +421,23 @@ void Page::Localize(Translator& translator)
     layOut(mLaidOutFor);
 }
 
-void Page::SetOfflineData(const IXMLDOMNode& node)
+void EditorPage::SetOfflineData(const IXMLDOMNode& node)
 {
     ViewBase::SetOfflineData(node);
     layOut(mLaidOutFor);
 }
 
-void Page::RequestFocus()
+void EditorPage::SetOnlineData(const IXMLDOMNode& node)
+{
+    const std::string name = documents::responseAttribute(node, "name");
+    const bool        isOwn =
+        std::ranges::any_of(mSections, [&](const auto& section) { return section->group == name; });
+    if (isOwn || findsItem(node.selectNodes("//comm:item"))) {
+        Page::SetOnlineData(node);
+    }
+}
+
+void EditorPage::RequestFocus()
 {
     for (const auto& section : mSections) {
         for (const auto& row : section->rows) {

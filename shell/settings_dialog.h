@@ -1,0 +1,68 @@
+#pragma once
+
+#include "framework/named_callbacks.h"
+#include "qt/view.h"
+#include "records/CtrSettings.h"
+#include "shell/shell_messenger.h"
+
+#include <QDialog>
+#include <QTimer>
+
+#include <memory>
+
+namespace quill::shell {
+
+/// The page that the settings control stands on: it does for the whole program what the control
+/// asks of it by name.
+class SettingsPage : public platform::Control, public NamedCallbacks {
+public:
+    explicit SettingsPage(ShellMessenger& messenger);
+    ~SettingsPage() override;
+
+    CtrSettings settings{*this, {.Name = "settings", .Tag = "settings", .Visible = false}};
+
+    [[nodiscard]] const char* TypeName() const override { return "SettingsPage"; }
+
+    void callByName(const std::string& method, const std::vector<std::string>& args) override;
+
+private:
+    ShellMessenger& mMessenger;
+};
+
+/// The settings in a window. The control decides when it closes: it hides itself, and the window
+/// goes with it. Each time it comes up it shows what is in force then.
+class SettingsDialog : public QDialog {
+    Q_OBJECT
+
+public:
+    /// The messenger must outlive the dialog.
+    SettingsDialog(ShellMessenger& messenger, QWidget* parent);
+    ~SettingsDialog() override;
+
+    [[nodiscard]] CtrSettings& control() { return mPage->settings; }
+    [[nodiscard]] qt::View&    view() { return *mView; }
+
+    void ask();
+    /// Shows its texts in the language in force, once the control has done what it is about.
+    void localize();
+
+    /// Escape and the window's own close button: nothing takes effect.
+    void reject() override;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+
+private:
+    void makePage();
+    void takeTexts();
+    void arrange();
+
+    ShellMessenger&               mMessenger;
+    std::unique_ptr<SettingsPage> mPage;
+    std::unique_ptr<qt::View>     mView;
+    QTimer                        mTextsTimer;
+    platform::Subscription        mOnHide;
+};
+
+} // namespace quill::shell

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "platform/buttons.h"
+#include "platform/widget.h"
+
+#include <cstdint>
+#include <memory>
+#include <string>
+
+namespace quill::shell {
+
+/// A view of the library, by the name of its class.
+struct ViewKind {
+    const char* name;
+    std::unique_ptr<platform::Control> (*make)(platform::Widget&       container,
+                                               const platform::Design& design);
+    /// Below this size, in twips, it gets scroll bars.
+    std::int32_t leastWidth;
+    std::int32_t leastHeight;
+
+    /// Deals with the device by itself: what its editors write is no edit of the datafile, so it
+    /// gets documents of its own, and what they hold is no pending change.
+    bool actsByItself = false;
+    /// Whether it hears of the communication mode. The end of a transfer opens editors, also those
+    /// that a wizard keeps shut.
+    bool hearsModes = true;
+    /// The button that sends something, where the view leaves it to the host when it may.
+    platform::CommandButton* (*sendButton)(platform::Control& view) = nullptr;
+    /// Lets it ask for what it shows, where no response brings that, unless it holds an edit.
+    void (*refresh)(platform::Control& view) = nullptr;
+    /// What is left to arrange once it has its size.
+    void (*arrange)(platform::Control& view) = nullptr;
+};
+
+/// The views that a page description can name; nothing for any other name.
+[[nodiscard]] const ViewKind* findView(const std::string& name);
+
+} // namespace quill::shell

@@ -1,0 +1,204 @@
+#include "shell/view_page.h"
+
+#include "framework/documents.h"
+#include "framework/steps.h"
+#include "framework/values.h"
+#include "platform/failure.h"
+#include "shell/forwarding_messenger.h"
+
+#include <algorithm>
+
+namespace quill::shell {
+
+namespace {
+
+// Lengths in twips, as on pages of editors.
+constexpr std::int32_t kMargin = 240; ///< around the card and inside it
+constexpr std::int32_t kTitle  = 480; ///< of the card
+
+const ViewKind& kindOf(const PageDescription& description)
+{
+    const ViewKind* const kind = findView(description.view);
+    if (kind == nullptr) {
+        throw platform::Failure(platform::kInvalidCall, "there is no view " + description.view);
+    }
+    return *kind;
+}
+
+/// For a view that is not to say or to hear everything.
+class ViewMessenger : public ForwardingMessenger {
+public:
+    ViewMessenger(Messenger& other, const ViewKind& kind, bool speaks)
+        : ForwardingMessenger(other), mKind(kind), mSpeaks(speaks)
+    {
+    }
+
+    void SetFixedStatusClassification(std::int16_t classification) override
+    {
+        if (mSpeaks) {
+            ForwardingMessenger::SetFixedStatusClassification(classification);
+        }
+    }
+    void SetCombinedStatus(std::int16_t level, const std::string& text) override
+    {
+        if (mSpeaks) {
+            ForwardingMessenger::SetCombinedStatus(level, text);
+        }
+    }
+    void BookChange(IQornDataEditor& editor, const std::string& tag, const std::string& label,
+                    const std::string& oldText, const std::string& newText,
+                    const std::string& extra, const std::string& type,
+                    const std::string& contextTag) override
+    {
+        if (!mKind.actsByItself) {
+            ForwardingMessenger::BookChange(editor, tag, label, oldText, newText, extra, type,
+                                            contextTag);
+        }
+    }
+
+protected:
+    [[nodiscard]] bool handsOnMode(std::int32_t) const override { return mKind.hearsModes; }
+
+private:
+    const ViewKind& mKind;
+    bool            mSpeaks;
+};
+
+/// A document of the view's own.
+IXMLDOMDocument copyOf(const IXMLDOMNode& node)
+{
+    return documents::openText(node.get_xml());
+}
+
+} // namespace
+
+ViewPage::ViewPage(platform::Widget& container, const PageDescription& description)
+    : Page(container, description), mKind(kindOf(description)),
+      mCard(*this, {.Name = "card", .Tag = description.viewTag}),
+      mView(mKind.make(mCard, {.Name = description.view, .Tag = description.viewTag}))
+{
+}
+
+ViewPage::~ViewPage() = default;
+
+bool ViewPage::isConcernedBy(const IXMLDOMNode& response) const
+{
+    const std::string tag = mView->Tag;
+    return !tag.empty() && values::contains(documents::responseAttribute(response, "name"), tag);
+}
+
+void ViewPage::layOut(const PageSpace& space)
+{
+    const std::int32_t leastWidth   = mKind.leastWidth + 4 * kMargin;
+    const std::int32_t leastHeight  = mKind.leastHeight + 3 * kMargin + kTitle;
+    const bool         scrollsDown  = space.height < leastHeight;
+    const bool         scrollsRight = space.width < leastWidth;
+    const std::int32_t width        = space.width - (scrollsDown ? space.bar : 0);
+    const std::int32_t height       = space.height - (scrollsRight ? space.bar : 0);
+    resize(std::max(width, leastWidth), std::max(height, leastHeight));
+    mCard.Left   = kMargin;
+    mCard.Top    = kMargin;
+    mCard.Width  = Width - 2 * kMargin;
+    mCard.Height = Height - 2 * kMargin;
+    mView->Left  = kMargin;
+    mView->Top   = kTitle;
+    mView->resize(mCard.Width - 2 * kMargin, mCard.Height - kTitle - kMargin);
+    if (mKind.arrange != nullptr) {
+        const Steps step{GetMessenger(), "ViewPage layOut: "};
+        step([&] { mKind.arrange(*mView); });
+    }
+}
+
+std::unique_ptr<Messenger> ViewPage::messengerFor(Messenger& messenger) const
+{
+    const bool isPlain = description().speaks && !mKind.actsByItself && mKind.hearsModes;
+    return isPlain ? nullptr
+                   : std::make_unique<ViewMessenger>(messenger, mKind, description().speaks);
+}
+
+void ViewPage::SetMessenger(Messenger* messenger)
+{
+    mOnMode.drop();
+    auto own = messenger != nullptr ? messengerFor(*messenger) : nullptr;
+    Page::SetMessenger(own ? own.get() : messenger);
+    mOwn = std::move(own);
+    if (messenger == nullptr) {
+        return;
+    }
+    // Behind the view, which may have a mind of its own.
+    mOnMode =
+        messenger->ViewSetCommunicationMode.subscribe([this](std::int32_t mode) { follow(mode); });
+    follow(messenger->GetCommunicationMode());
+}
+
+void ViewPage::follow(std::int32_t mode)
+{
+    const Steps step{GetMessenger(), "ViewPage ViewSetCommunicationMode: "};
+    // While a transfer runs it stays as it is: who works by keyboard would lose his place.
+    if (mKind.sendButton != nullptr && mode != kEditingBarred) {
+        step([&] {
+            mKind.sendButton(*mView)->Enabled =
+                mode == kOnline && existing(GetMessenger()).GetUserLevel() >= kMaintenanceLevel;
+        });
+    }
+    if (mode != kEditingBarred && Visible) {
+        refresh();
+    }
+}
+
+void ViewPage::refresh()
+{
+    if (mKind.refresh != nullptr) {
+        const Steps step{GetMessenger(), "ViewPage refresh: "};
+        step([&] { mKind.refresh(*mView); });
+    }
+}
+
+void ViewPage::Localize(Translator& translator)
+{
+    Page::Localize(translator);
+    const Steps step{GetMessenger(), "ViewPage Localize: "};
+    step([&] { mCard.Caption = translator.Translate(mCard.Tag); });
+}
+
+void ViewPage::SetOfflineData(const IXMLDOMNode& node)
+{
+    if (!mKind.actsByItself) {
+        Page::SetOfflineData(node);
+        return;
+    }
+    const Steps step{GetMessenger(), "ViewPage SetOfflineData: "};
+    step([&] { Page::SetOfflineData(copyOf(node)); });
+}
+
+void ViewPage::SetOnlineData(const IXMLDOMNode& node)
+{
+    if (!isConcernedBy(node)) {
+        return;
+    }
+    // Straight to the view: the walk over a page would report each time that a card takes no data.
+    if (auto* const user = dynamic_cast<IQornDataUser*>(mView.get())) {
+        const Steps step{GetMessenger(), "ViewPage SetOnlineData: "};
+        step([&] { user->SetOnlineData(mKind.actsByItself ? copyOf(node) : node); });
+    }
+}
+
+void ViewPage::SetSelectedView(const std::string& name)
+{
+    auto* const view = dynamic_cast<IQornView*>(mView.get());
+    if (view != nullptr && name == Tag) {
+        const Steps step{GetMessenger(), "ViewPage SetSelectedView: "};
+        step([&] { view->SetSelectedView(mView->Tag); });
+        refresh();
+    }
+}
+
+void ViewPage::RequestFocus()
+{
+    if (auto* const view = dynamic_cast<IQornView*>(mView.get())) {
+        const Steps step{GetMessenger(), "ViewPage RequestFocus: "};
+        step([&] { view->RequestFocus(); });
+    }
+}
+
+} // namespace quill::shell
