@@ -20,10 +20,11 @@ constexpr int kCheckColumn = 2;
 constexpr const char* kModifiedKey = "modified";
 
 constexpr std::int32_t kTwipsPerPixel = 15;
-constexpr std::int32_t kRowHeight     = 315;
-constexpr std::int32_t kBorder        = 60;
-constexpr std::int32_t kSignWidth     = 20; // pixels, as the next one
-constexpr std::int32_t kMarkWidth     = 24;
+/// Some more than a row of text needs: a scroll bar would take the signs out of sight.
+constexpr std::int32_t kRowHeight = 360;
+constexpr std::int32_t kBorder    = 60;
+constexpr std::int32_t kSignWidth = 20; // pixels, as the next one
+constexpr std::int32_t kMarkWidth = 24;
 
 } // namespace
 

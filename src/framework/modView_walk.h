@@ -29,8 +29,8 @@ void announceNext(const platform::WidgetList& controls, std::size_t place) noexc
 /// The group behind the first five characters.
 [[nodiscard]] std::string groupIn(const std::string& tag);
 
-/// The control inside a child; nothing for a grid, which has an object that is none of ours. A plain
-/// widget has none at all: failure 438.
+/// The control inside a child; nothing for a grid, which has an object that is none of ours. A
+/// plain widget has none at all: failure 438.
 [[nodiscard]] platform::Control* objectOf(platform::Widget& widget);
 /// The child as an editor that is bound to a parameter, else nothing.
 [[nodiscard]] BoundEditor* boundEditor(platform::Widget& widget);

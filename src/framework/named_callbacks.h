@@ -12,9 +12,9 @@ namespace quill {
 ///
 /// | Method | Arguments | Called |
 /// |---|---|---|
-/// | "QuillStatusChanged" | the combined status | by a status view on a page of the type "VwOnlineDiag" |
-/// | "QuillTranslateTexts" | the language | by the settings dialog |
-/// | "QuillInformUnitChanges" | none | by the settings dialog |
+/// | "QuillStatusChanged" | the combined status | by a status view on a page of the type
+/// "VwOnlineDiag" | | "QuillTranslateTexts" | the language | by the settings dialog | |
+/// "QuillInformUnitChanges" | none | by the settings dialog |
 class NamedCallbacks {
 public:
     virtual ~NamedCallbacks() = default;

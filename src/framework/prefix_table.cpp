@@ -55,7 +55,6 @@ PrefixTable::PrefixTable(std::vector<std::string> texts)
     for (std::size_t node = count; node-- > 1;) {
         mLowest[node] = std::min(mLowest[2 * node], mLowest[2 * node + 1]);
     }
-    answerEachText();
 }
 
 std::string_view PrefixTable::tailOf(const Entry& entry) const
@@ -68,9 +67,6 @@ std::optional<std::size_t> PrefixTable::first(std::string_view prefix) const
     if (mTexts.empty()) {
         return std::nullopt;
     }
-    if (mNext < mTexts.size() && mTexts[mNext] == prefix) {
-        return mAnswers[mNext++];
-    }
     const std::size_t shared = std::min(prefix.size(), mCommon);
     if (mTexts.front().compare(0, shared, prefix.substr(0, shared)) != 0) {
         return std::nullopt;
@@ -81,19 +77,28 @@ std::optional<std::size_t> PrefixTable::first(std::string_view prefix) const
     }
     // Those that begin with the prefix stand side by side.
     const std::uint64_t head  = headOf(rest);
-    const auto          begin = std::lower_bound(
+    const auto          found = std::lower_bound(
                  mSorted.begin(), mSorted.end(), head, [&](const Entry& entry, std::uint64_t h) {
             return entry.head != h ? entry.head < h : tailOf(entry) < rest;
         });
-    const auto end = std::partition_point(
-        begin, mSorted.end(), [&](const Entry& entry) { return tailOf(entry).starts_with(rest); });
-    if (begin == end) {
-        return std::nullopt;
+    const auto begin = static_cast<std::size_t>(found - mSorted.begin());
+    const auto end   = endOf(begin, rest);
+    return begin == end ? std::nullopt : std::optional<std::size_t>{lowest(begin, end)};
+}
+
+std::size_t PrefixTable::endOf(std::size_t begin, std::string_view tail) const
+{
+    const auto isOne = [&](const Entry& entry) { return tailOf(entry).starts_with(tail); };
+    // There are rarely more than one, so the search begins with short steps.
+    std::size_t reach = 1;
+    std::size_t end   = begin;
+    while (end < mSorted.size() && isOne(mSorted[end])) {
+        end += reach;
+        reach *= 2;
     }
-    const std::uint32_t answer = lowest(static_cast<std::size_t>(begin - mSorted.begin()),
-                                        static_cast<std::size_t>(end - mSorted.begin()));
-    mNext                      = answer + 1U;
-    return answer;
+    const auto from = mSorted.begin() + static_cast<std::ptrdiff_t>(begin);
+    const auto to   = mSorted.begin() + static_cast<std::ptrdiff_t>(std::min(end, mSorted.size()));
+    return static_cast<std::size_t>(std::partition_point(from, to, isOne) - mSorted.begin());
 }
 
 std::uint32_t PrefixTable::lowest(std::size_t begin, std::size_t end) const
@@ -110,31 +115,6 @@ std::uint32_t PrefixTable::lowest(std::size_t begin, std::size_t end) const
         }
     }
     return place;
-}
-
-void PrefixTable::answerEachText()
-{
-    // From the back: those that begin with a text stand right behind it, in runs that are done.
-    const std::size_t        count = mSorted.size();
-    std::vector<std::size_t> ends(count); // where the run of each text ends
-    mAnswers.resize(count);
-    for (std::size_t at = count; at-- > 0;) {
-        const std::string_view text   = tailOf(mSorted[at]);
-        std::uint32_t          answer = mSorted[at].place;
-        std::size_t            end    = at + 1;
-        while (end < count && tailOf(mSorted[end]).starts_with(text)) {
-            answer = std::min(answer, mAnswers[mSorted[end].place]);
-            end    = ends[end];
-        }
-        ends[at]                    = end;
-        mAnswers[mSorted[at].place] = answer;
-    }
-    // Of equal texts each begins with the others.
-    for (std::size_t at = 1; at < count; ++at) {
-        if (tailOf(mSorted[at]) == tailOf(mSorted[at - 1])) {
-            mAnswers[mSorted[at].place] = mAnswers[mSorted[at - 1].place];
-        }
-    }
 }
 
 } // namespace quill

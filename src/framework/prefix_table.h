@@ -10,8 +10,7 @@
 namespace quill {
 
 /// Finds the first text of a list that begins with a prefix, without looking at the others. Built
-/// once in the time of a sort; a question costs the logarithm of the list, and next to nothing if
-/// it names the text behind the one that answered last, as who walks both lists does.
+/// once in the time of a sort; a question costs the logarithm of the list.
 class PrefixTable {
 public:
     explicit PrefixTable(std::vector<std::string> texts);
@@ -29,8 +28,9 @@ private:
     };
 
     [[nodiscard]] std::string_view tailOf(const Entry& entry) const;
-    void                           answerEachText();
-    [[nodiscard]] std::uint32_t    lowest(std::size_t begin, std::size_t end) const;
+    /// Behind the last of the texts from `begin` on that begin with this.
+    [[nodiscard]] std::size_t   endOf(std::size_t begin, std::string_view tail) const;
+    [[nodiscard]] std::uint32_t lowest(std::size_t begin, std::size_t end) const;
 
     std::vector<std::string> mTexts;
     std::size_t              mCommon = 0; ///< length of the beginning that all texts share
@@ -38,9 +38,6 @@ private:
     /// A tree of lowest places: the leaves are those of `mSorted`, from the middle on; each node
     /// above holds the lower of its two.
     std::vector<std::uint32_t> mLowest;
-    /// For each place the answer to the text that stands there.
-    std::vector<std::uint32_t> mAnswers;
-    mutable std::size_t        mNext = 0; ///< behind the place that answered last
 };
 
 } // namespace quill

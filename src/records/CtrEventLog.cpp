@@ -6,8 +6,6 @@
 #include "framework/values.h"
 #include "platform/failure.h"
 
-#include <utility>
-
 namespace quill {
 
 namespace {
@@ -33,8 +31,8 @@ std::string inOperationTimeFormat(const std::string& time)
 /// A host without a text for a key says so in the answer; the key itself then tells the user more.
 std::string textOrKey(Translator& translator, const std::string& key)
 {
-    std::string text = translator.Translate(key);
-    return modTools::IsNotErrorText(text) ? std::move(text) : key;
+    const std::string text = translator.Translate(key);
+    return modTools::IsNotErrorText(text) ? text : key;
 }
 
 const char* flagText(bool flag)

@@ -41,8 +41,7 @@ void CtrStatus::UserControl_Initialize()
     Resize.raise();
 }
 
-// --- The host
-// -------------------------------------------------------------------------------------
+// --- The host ---------------------------------------------------------------------------------
 
 void CtrStatus::SetMessenger(Messenger* messenger)
 {
@@ -96,8 +95,7 @@ void CtrStatus::combinedStatusChanged()
     }
 }
 
-// --- The tree
-// -------------------------------------------------------------------------------------
+// --- The tree ---------------------------------------------------------------------------------
 
 void CtrStatus::UpdateStatusTree(const IXMLDOMDocument& guiInitXml, Translator& translator)
 {
@@ -208,8 +206,7 @@ void CtrStatus::readMask(const Steps& step, int row, const IXMLDOMNode& status)
     step([&] { entryAt(maiMaskBit, row - 1) = maskBit; });
 }
 
-// --- Responses
-// ------------------------------------------------------------------------------------
+// --- Responses --------------------------------------------------------------------------------
 
 void CtrStatus::SetImportData(const IXMLDOMNode& node)
 {

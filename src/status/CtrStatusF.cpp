@@ -48,8 +48,7 @@ void CtrStatusF::UserControl_Initialize()
     Resize.raise();
 }
 
-// --- The host
-// -------------------------------------------------------------------------------------
+// --- The host ---------------------------------------------------------------------------------
 
 void CtrStatusF::SetMessenger(Messenger* messenger)
 {
@@ -133,8 +132,7 @@ bool CtrStatusF::isOffline(const Steps& step)
     return step.value(false, [&] { return host().GetCommunicationMode() == kOffline; });
 }
 
-// --- Form
-// -----------------------------------------------------------------------------------------
+// --- Form -------------------------------------------------------------------------------------
 
 void CtrStatusF::Localize(Translator& translator)
 {
@@ -193,8 +191,7 @@ void CtrStatusF::arrange()
         std::max(0, std::min(cmdDownload.Top, cmdConfiguration.Top) - kGap - scgStatus.Top);
 }
 
-// --- The tree
-// -------------------------------------------------------------------------------------
+// --- The tree ---------------------------------------------------------------------------------
 
 void CtrStatusF::LoadStatusTree(const IXMLDOMDocument& document)
 {
@@ -220,8 +217,7 @@ void CtrStatusF::readMask(const Steps& step, int row, const IXMLDOMNode& status)
     step([&] { configuration().AddBit(values::toInt16(row), status); });
 }
 
-// --- Data
-// -----------------------------------------------------------------------------------------
+// --- Data -------------------------------------------------------------------------------------
 
 void CtrStatusF::SetImportData(const IXMLDOMNode& node)
 {

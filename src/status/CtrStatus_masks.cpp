@@ -171,8 +171,7 @@ void CtrStatus::applyMask(const Steps& step, int index, const std::string& mask,
     });
 }
 
-// --- Bytes of a mask
-// ------------------------------------------------------------------------------
+// --- Bytes of a mask --------------------------------------------------------------------------
 
 bool CtrStatus::HasMask(int index)
 {

@@ -39,8 +39,7 @@ void StatusTreeView::log(const Steps& step, std::int16_t category, const std::st
     step([&] { host().WriteLog(category, text); });
 }
 
-// --- Form
-// -----------------------------------------------------------------------------------------
+// --- Form -------------------------------------------------------------------------------------
 
 void StatusTreeView::setUpGrids()
 {
@@ -102,8 +101,7 @@ void StatusTreeView::RequestFocus()
 
 void StatusTreeView::ShowNode(const std::string& /*nodeTag*/, bool /*isShown*/) {}
 
-// --- Rows
-// -----------------------------------------------------------------------------------------
+// --- Rows -------------------------------------------------------------------------------------
 
 void StatusTreeView::setIcon(int index, const std::string& key)
 {
@@ -139,8 +137,7 @@ void StatusTreeView::setCombinedStatus(const std::string& status)
     step([&] { combinedStatusChanged(); });
 }
 
-// --- A response
-// -----------------------------------------------------------------------------------
+// --- A response -------------------------------------------------------------------------------
 
 StatusTreeView::Pass StatusTreeView::beginPass(const Steps& step)
 {

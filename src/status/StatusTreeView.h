@@ -60,13 +60,13 @@ protected:
     StatusTreeView(const char* className, platform::Widget& container,
                    const platform::Design& design);
 
-    // --- Outlets for failures ----------------------------------------------------------------
+    // --- Outlets for failures -----------------------------------------------------------------
 
     /// To the host's log: class name, blank, `place`, number, ": " and description.
     [[nodiscard]] Steps logSteps(std::int16_t category, const std::string& place);
     void                log(const Steps& step, std::int16_t category, const std::string& text);
 
-    // --- Rows --------------------------------------------------------------------------------
+    // --- Rows ---------------------------------------------------------------------------------
 
     /// Lets a table grow to a last index, and never loses an entry. Failure 9 for one below 0.
     template <class T>
@@ -112,7 +112,7 @@ protected:
     /// Lays the tree out.
     void arrange() override;
 
-    // --- The tree ----------------------------------------------------------------------------
+    // --- The tree -----------------------------------------------------------------------------
 
     /// What a row begins with; no icon where the key is empty.
     struct FreshRow {
@@ -131,7 +131,7 @@ protected:
     /// A condition has got its row, numbered from 1.
     virtual void readMask(const Steps& step, int row, const IXMLDOMNode& status) = 0;
 
-    // --- A response --------------------------------------------------------------------------
+    // --- A response ---------------------------------------------------------------------------
 
     /// One walk of a response over the rows.
     struct Pass {
