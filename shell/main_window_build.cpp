@@ -19,6 +19,7 @@
 #include <QSplitter>
 #include <QStatusBar>
 #include <QToolBar>
+#include <QToolButton>
 #include <QTreeWidget>
 #include <QVBoxLayout>
 
@@ -184,6 +185,11 @@ void MainWindow::buildToolBar()
         } else {
             bar->addAction(command(name));
         }
+    }
+    // Known by its sign; in the longer languages there is no room for more words.
+    if (auto* const button =
+            qobject_cast<QToolButton*>(bar->widgetForAction(command("settings")))) {
+        button->setToolButtonStyle(Qt::ToolButtonIconOnly);
     }
     bar->addWidget(spacer());
 

@@ -4,6 +4,7 @@
 #include "actions/CtrMACalibration.h"
 #include "actions/CtrModuleSelection.h"
 #include "actions/CtrReset.h"
+#include "platform/toolkit.h"
 #include "records/CtrEventLog.h"
 #include "status/CtrStatus.h"
 #include "status/CtrStatusF.h"
@@ -64,6 +65,25 @@ void fitEventColumn(platform::Control& view)
     list.setColumnWidth(kEvent, std::max<std::int32_t>(list.Width - others - kBar, kBar));
 }
 
+/// The lists show every entry whole; the button stands behind them.
+void fitLists(platform::Control& view)
+{
+    constexpr std::int32_t kBeside = 780; // arrow, edges and signs
+    constexpr std::int32_t kLeast  = 3900;
+    constexpr std::int32_t kGap    = 200;
+    auto&                  reset   = dynamic_cast<CtrReset&>(view);
+    std::int32_t           width   = kLeast;
+    for (const CtrComboEdit& combo : reset.cceReset) {
+        for (const std::string& entry : combo.cboBox.List()) {
+            width = std::max(width, platform::Toolkit::current().textWidth(entry) + kBeside);
+        }
+    }
+    for (CtrComboEdit& combo : reset.cceReset) {
+        combo.Width = width;
+    }
+    reset.cmdReset.Left = reset.cceReset[0].Left + width + kGap;
+}
+
 constexpr std::array kViews = {
     ViewKind{"CtrStatus", make<CtrStatus>, 6000, 3000},
     ViewKind{"CtrStatusF", make<CtrStatusF>, 7500, 3000},
@@ -76,7 +96,8 @@ constexpr std::array kViews = {
              .make         = makeUntitled<CtrReset>,
              .leastWidth   = 10200,
              .leastHeight  = 2400,
-             .actsByItself = true},
+             .actsByItself = true,
+             .arrange      = fitLists},
     ViewKind{.name         = "CtrHartAddress",
              .make         = makeUntitled<CtrHartAddress>,
              .leastWidth   = 9600,

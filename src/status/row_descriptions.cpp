@@ -37,7 +37,10 @@ void RowDescriptions::translate(Translator& translator, const std::vector<std::s
     }
     int row = 0;
     for (const Shown& shown : mShown) {
-        write(++row, shown);
+        ++row;
+        if (shown.image != nullptr) {
+            write(row, shown);
+        }
     }
 }
 
@@ -69,25 +72,26 @@ RowDescriptions::Shown* RowDescriptions::at(int row)
 void RowDescriptions::put(int row, const std::string& image, ConditionState state, bool spoken)
 {
     Shown* const shown = at(row);
-    if (shown == nullptr || (!shown->fresh && shown->image == image && shown->state == state &&
-                             shown->spoken == spoken)) {
+    if (shown == nullptr || (shown->image != nullptr && *shown->image == image &&
+                             shown->state == state && shown->spoken == spoken)) {
         return;
     }
-    *shown = {image, state, spoken, false};
+    *shown = {&*mImages.insert(image).first, state, spoken};
     write(row, *shown);
 }
 
 void RowDescriptions::write(int row, const Shown& shown)
 {
     silentSteps()([&] {
-        std::string text = mGrid.cell(row, 1).Text;
-        if (!shown.image.empty()) {
-            text += kSeparator + word(shown.image);
+        std::string       text  = mGrid.cell(row, 1).Text;
+        const std::string image = shown.image->empty() ? std::string{} : word(*shown.image);
+        if (!image.empty()) {
+            text += kSeparator + image;
         }
         if (shown.spoken) {
             const std::string state = word(kStateKeys[static_cast<std::size_t>(shown.state)]);
             // "Unknown, unknown" says no more than once.
-            if (shown.image.empty() || state != word(shown.image)) {
+            if (state != image) {
                 text += kSeparator + state;
             }
         }

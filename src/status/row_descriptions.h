@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <string>
 #include <unordered_map>
+#include <unordered_set>
 #include <vector>
 
 namespace quill {
@@ -47,10 +48,9 @@ public:
 
 private:
     struct Shown {
-        std::string    image;
-        ConditionState state  = ConditionState::none;
-        bool           spoken = false; ///< whether the state is part of the text
-        bool           fresh  = true;  ///< nothing was written yet
+        const std::string* image = nullptr; ///< in `mImages`; nothing while nothing was written yet
+        ConditionState     state = ConditionState::none;
+        bool               spoken = false; ///< whether the state is part of the text
     };
 
     /// Nothing for a row that cannot be.
@@ -61,6 +61,7 @@ private:
 
     platform::Grid&                              mGrid;
     std::unordered_map<std::string, std::string> mWords;
+    std::unordered_set<std::string>              mImages; ///< those that occur, once each
     std::vector<Shown>                           mShown;
 };
 
