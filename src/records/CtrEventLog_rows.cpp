@@ -10,6 +10,30 @@
 
 namespace quill {
 
+namespace {
+
+/// Asks the memory for a row that comes soon: the texts of thousands of rows lie far apart, and
+/// waiting for them is most of what a walk over them costs. `place` counts from 0.
+void announceRow([[maybe_unused]] const std::vector<platform::ListItem>& items,
+                 [[maybe_unused]] std::size_t                            place)
+{
+#if defined(__GNUC__)
+    constexpr std::size_t kCellsAhead = 12;
+    constexpr std::size_t kTextsAhead = 6;
+    if (place + kCellsAhead < items.size()) {
+        const auto& cells = items[place + kCellsAhead].SubItems;
+        for (std::size_t cell = 0; cell < cells.size(); cell += 2) {
+            __builtin_prefetch(cells.data() + cell); // two to a line of the cache
+        }
+        for (const std::string& text : items[place + kTextsAhead].SubItems) {
+            __builtin_prefetch(text.data());
+        }
+    }
+#endif
+}
+
+} // namespace
+
 using platform::ListItem;
 
 int CtrEventLog::addRow()
@@ -148,6 +172,7 @@ void CtrEventLog::AddStamps(const std::string& operationTime, const std::string&
         int       breaks     = 0;
         int       obsolete   = 0;
         for (int row = 1; row <= lsvEventLog.Count(); ++row) {
+            announceRow(lsvEventLog.ListItems(), static_cast<std::size_t>(row));
             tell("i = " + std::to_string(row));
             tell("strTime from uitem = " +
                  eventLog::column(lsvEventLog.Item(row), eventLog::kTime));
