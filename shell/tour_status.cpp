@@ -180,8 +180,8 @@ void switchClassifications(TourGuide& guide)
     window.command("classNAMUR")->trigger();
     liveAndRead(guide);
     guide.check(iconOf(view, kSupplyLow) == "deviceOffSpecification",
-                "by NAMUR it is out of specification");
-    checkSign(guide, "Out of specification");
+                "by NAMUR it is out of spec");
+    checkSign(guide, "Out of spec");
     guide.picture("status-namur");
     window.command("classSeverity")->trigger();
     liveAndRead(guide);

@@ -1242,7 +1242,7 @@
         <translation>Funktionskontrolle</translation>
     </message>
     <message id="deviceOffSpecification">
-        <source>Out of specification</source>
+        <source>Out of spec</source>
         <translation>Außerhalb der Spezifikation</translation>
     </message>
     <message id="deviceMaintenanceRequired">

@@ -1242,8 +1242,8 @@
         <translation>Function check</translation>
     </message>
     <message id="deviceOffSpecification">
-        <source>Out of specification</source>
-        <translation>Out of specification</translation>
+        <source>Out of spec</source>
+        <translation>Out of spec</translation>
     </message>
     <message id="deviceMaintenanceRequired">
         <source>Maintenance required</source>

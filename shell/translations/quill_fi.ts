@@ -1242,7 +1242,7 @@
         <translation>Toiminnan tarkastus</translation>
     </message>
     <message id="deviceOffSpecification">
-        <source>Out of specification</source>
+        <source>Out of spec</source>
         <translation>Määrittelyn ulkopuolella</translation>
     </message>
     <message id="deviceMaintenanceRequired">

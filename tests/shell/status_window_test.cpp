@@ -246,7 +246,7 @@ TEST_F(StatusWindow, TheUserChoosesTheClassification)
     EXPECT_EQ(messenger().GetStatusClassification(), kClassNAMUR);
     readPage();
     EXPECT_EQ(icon(view(), "statusSupplyPressureLow"), "deviceOffSpecification");
-    EXPECT_EQ(sign().word(), "Out of specification");
+    EXPECT_EQ(sign().word(), "Out of spec");
     window->command("classSeverity")->trigger();
     readPage();
     EXPECT_EQ(sign().word(), "Alarm");
