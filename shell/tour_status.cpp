@@ -179,8 +179,7 @@ void switchClassifications(TourGuide& guide)
     simulate(guide, "faultSupplyFailure");
     window.command("classNAMUR")->trigger();
     liveAndRead(guide);
-    guide.check(iconOf(view, kSupplyLow) == "deviceOffSpecification",
-                "by NAMUR it is out of spec");
+    guide.check(iconOf(view, kSupplyLow) == "deviceOffSpecification", "by NAMUR it is out of spec");
     checkSign(guide, "Out of spec");
     guide.picture("status-namur");
     window.command("classSeverity")->trigger();
