@@ -331,6 +331,11 @@ double roundToEven(double number)
     return std::nearbyint(number);
 }
 
+std::int32_t percentOf(std::int32_t length, int percent)
+{
+    return static_cast<std::int32_t>(roundToEven(static_cast<double>(length) * percent / 100.0));
+}
+
 std::int16_t toInt16(double number)
 {
     return toInteger<std::int16_t>(number);

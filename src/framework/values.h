@@ -48,6 +48,9 @@ namespace quill::values {
 
 /// To the nearest whole number, a tie to the even one.
 [[nodiscard]] double roundToEven(double number);
+
+/// `percent` (0 to 100) of a length, rounded by `roundToEven`; any length is allowed.
+[[nodiscard]] std::int32_t percentOf(std::int32_t length, int percent);
 /// The same as a 16-bit or 32-bit integer; outside the range, and for NaN, failure 6.
 [[nodiscard]] std::int16_t toInt16(double number);
 [[nodiscard]] std::int32_t toInt32(double number);

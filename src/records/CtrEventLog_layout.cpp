@@ -3,6 +3,7 @@
 
 #include "framework/caption_width.h"
 #include "framework/steps.h"
+#include "framework/values.h"
 #include "platform/toolkit.h"
 
 #include <algorithm>
@@ -21,11 +22,6 @@ constexpr std::int32_t kNextWidth      = 1500;
 
 // Columns of the list, from 1.
 enum ColumnNumber : int { kClassColumn = 1, kEventColumn, kTimeColumn, kDateColumn };
-
-constexpr std::int32_t percent(std::int32_t whole, std::int32_t part)
-{
-    return (whole * part + 50) / 100;
-}
 
 /// Width of a label that shows its caption whole.
 std::int32_t labelWidth(std::int32_t text)
@@ -77,9 +73,9 @@ void CtrEventLog::arrange()
 void CtrEventLog::fitColumns()
 {
     const std::int32_t width      = lsvEventLog.Width;
-    const std::int32_t eventClass = mblnHideClasses ? 0 : percent(width, 15);
-    const std::int32_t time       = percent(width, 12);
-    const std::int32_t date       = percent(width, 27);
+    const std::int32_t eventClass = mblnHideClasses ? 0 : values::percentOf(width, 15);
+    const std::int32_t time       = values::percentOf(width, 12);
+    const std::int32_t date       = values::percentOf(width, 27);
     const std::int32_t widths[] = {eventClass, width - eventClass - time - date, time, date, 0, 0};
     const auto         columns  = std::min(std::size(widths), lsvEventLog.ColumnHeaders().size());
     for (std::size_t column = 0; column < columns; ++column) {

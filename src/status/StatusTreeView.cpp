@@ -57,13 +57,10 @@ void StatusTreeView::setUpGrids()
 
 void StatusTreeView::arrange()
 {
-    const auto percent = [](std::int32_t length, int part) {
-        return static_cast<std::int32_t>(values::roundToEven(length * part / 100.0));
-    };
-    scgStatus.Left   = percent(Width, 5);
-    scgStatus.Top    = percent(Height, 3);
-    scgStatus.Width  = percent(Width, 95);
-    scgStatus.Height = percent(Height, 95);
+    scgStatus.Left   = values::percentOf(Width, 5);
+    scgStatus.Top    = values::percentOf(Height, 3);
+    scgStatus.Width  = values::percentOf(Width, 95);
+    scgStatus.Height = values::percentOf(Height, 95);
 }
 
 void StatusTreeView::Localize(Translator& translator)

@@ -339,6 +339,17 @@ TEST(Values, WholeNumbersRoundToTheEvenOne)
     }
 }
 
+TEST(Values, APercentageOfALengthIsRoundedAndHoldsForAnyLength)
+{
+    EXPECT_EQ(values::percentOf(10000, 15), 1500);
+    EXPECT_EQ(values::percentOf(50, 5), 2);
+    EXPECT_EQ(values::percentOf(70, 5), 4);
+    EXPECT_EQ(values::percentOf(0, 95), 0);
+    EXPECT_EQ(values::percentOf(-200, 3), -6);
+    EXPECT_EQ(values::percentOf(100000000, 95), 95000000);
+    EXPECT_EQ(values::percentOf(2147483647, 100), 2147483647);
+}
+
 TEST(Values, AnIntegerOutsideItsRangeOverflows)
 {
     EXPECT_EQ(values::toInt16(2.5), 2);

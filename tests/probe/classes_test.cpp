@@ -158,6 +158,7 @@ TEST(ProbeClasses, EveryControlSurvivesItsLifeWithoutAMessenger)
               "{'op':'do','on':'c','action':'show'}",
               "{'op':'do','on':'c','action':'press','key':9}",
               "{'op':'do','on':'c','action':'resize','width':0,'height':100000000}",
+              "{'op':'do','on':'c','action':'resize','width':100000000,'height':100000000}",
               "{'op':'raise','event':'ViewSetCommunicationMode','args':[20]}",
               "{'op':'call','on':'c','method':'PrepareToRelease','args':[]}",
               "{'op':'call','on':'c','method':'SetOnlineData','args':[{'doc':'d'}]}"}) {
