@@ -15,6 +15,23 @@ namespace {
 
 void registerEditorBases(std::vector<ClassEntry>& classes)
 {
+    using T = TypedEditor;
+    Class<T>{"TypedEditor"}
+        .method("dblAComparedToB", &T::dblAComparedToB)
+        .state("originalText", &T::originalText)
+        .state("decimalCount", &T::decimalCount)
+        .state("limitMax", &T::limitMax)
+        .state("limitMin", &T::limitMin)
+        .state("messageUnit", &T::messageUnit)
+        .state("numberFormat", &T::numberFormat)
+        .state("allowEmpty", &T::allowEmpty)
+        .state("accessText", &T::accessText)
+        .into(classes);
+    Class<ListEditor>{"ListEditor"}
+        .state("mappings", &ListEditor::mappings)
+        .state("originalText", &ListEditor::originalText)
+        .event("Change", &ListEditor::Change)
+        .into(classes);
     Class<EditorBase>{"EditorBase"}
         .property("Correct", &EditorBase::Correct, &EditorBase::setCorrect)
         .property("SignBackColor", &EditorBase::SignBackColor, &EditorBase::setSignBackColor)
@@ -54,19 +71,10 @@ void registerTextEdit(std::vector<ClassEntry>& classes)
         .method("setParameterPair", &C::setParameterPair)
         .method("unsetParameterPair", &C::unsetParameterPair, {.defaults = {""}, .outs = {}})
         .method("downloadable", &C::downloadable)
-        .method("dblAComparedToB", &C::dblAComparedToB)
         .method("FormatForCommunication", &C::FormatForCommunication)
         .method("setVisibleUnit", &C::setVisibleUnit)
-        .state("originalText", &C::originalText)
-        .state("decimalCount", &C::decimalCount)
-        .state("limitMax", &C::limitMax)
-        .state("limitMin", &C::limitMin)
-        .state("messageUnit", &C::messageUnit)
         .state("decimalSeparator", &C::decimalSeparator)
-        .state("numberFormat", &C::numberFormat)
-        .state("allowEmpty", &C::allowEmpty)
         .state("packedAscii", &C::packedAscii)
-        .state("accessText", &C::accessText)
         .state("pairMinPartner", &C::pairMinPartner)
         .state("pairMaxPartner", &C::pairMaxPartner)
         .state("pairDifferenceMin", &C::pairDifferenceMin)
@@ -94,11 +102,8 @@ void registerComboEdit(std::vector<ClassEntry>& classes)
         .method("downloadable", &C::downloadable)
         .method("GetIndex", &C::GetIndex)
         .method("GetComboText", &C::GetComboText)
-        .state("mappings", &C::mappings)
         .state("selectedIndex", &C::selectedIndex)
-        .state("originalText", &C::originalText)
         .state("infoTag", &C::infoTag)
-        .event("Change", &C::Change)
         .event("Modified", &C::ModifiedEvent)
         .into(classes);
 }
@@ -113,10 +118,7 @@ void registerOptionEdit(std::vector<ClassEntry>& classes)
         .property("Text", &C::Text, &C::setText)
         .method("addOption", &C::addOption)
         .method("mapText", &C::mapText)
-        .state("mappings", &C::mappings)
         .state("selectedValue", &C::selectedValue)
-        .state("originalText", &C::originalText)
-        .event("Change", &C::Change)
         .into(classes);
 }
 
@@ -139,16 +141,7 @@ void registerTimeEdit(std::vector<ClassEntry>& classes)
         .property("Locked", &C::Locked, &C::setLocked)
         .property("Text", &C::Text, &C::setText)
         .method("EditText", &C::EditText)
-        .method("dblAComparedToB", &C::dblAComparedToB)
         .method("FormatForCommunication", &C::FormatForCommunication)
-        .state("originalText", &C::originalText)
-        .state("decimalCount", &C::decimalCount)
-        .state("limitMax", &C::limitMax)
-        .state("limitMin", &C::limitMin)
-        .state("messageUnit", &C::messageUnit)
-        .state("numberFormat", &C::numberFormat)
-        .state("allowEmpty", &C::allowEmpty)
-        .state("accessText", &C::accessText)
         .event("Change", &C::Change)
         .into(classes);
 }

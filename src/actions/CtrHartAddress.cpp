@@ -45,6 +45,7 @@ CtrHartAddress::CtrHartAddress(platform::Widget& container, const platform::Desi
 void CtrHartAddress::UserControl_Initialize()
 {
     paintFrames();
+    lblTitle.Bold = true;
     Resize.raise();
 }
 

@@ -105,6 +105,7 @@ void CtrMACalibration::UserControl_Initialize()
     for (CtrTextEdit& edit : cteMACalibration) {
         edit.setSilent(true);
     }
+    lblTitle.Bold               = true;
     imgMACalibration[0].Picture = kCurrentStep;
     cmdBack.Enabled             = false;
     Resize.raise();

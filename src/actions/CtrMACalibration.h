@@ -110,6 +110,8 @@ public:
 
 protected:
     void arrange() override;
+    /// This view drops what it cannot report to a host.
+    [[nodiscard]] Steps debugSteps(const char*) const override { return silentSteps(); }
 
 private:
     static platform::Design image(int step);
@@ -122,7 +124,6 @@ private:
     [[nodiscard]] bool isFinished() const noexcept;
     /// Sends the value of the current step; false if there is one that cannot go to the device.
     bool sendStep(const Steps& step);
-    void goOn(const Steps& step);
     void showFinished(const Steps& step);
     void showRows(const Steps& step);
     void open(const Steps& step, std::int32_t row, bool isOpen);

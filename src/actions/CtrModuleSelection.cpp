@@ -4,6 +4,7 @@
 #include "framework/caption_width.h"
 #include "framework/documents.h"
 #include "framework/modTools.h"
+#include "platform/utf8.h"
 
 #include <algorithm>
 
@@ -53,10 +54,10 @@ Cut cut(const Steps& step, const std::string& configuration)
 std::string around(const Steps& step, const Cut& cut, const std::string& module)
 {
     using busConfiguration::word;
-    const auto halfOf = [](std::size_t digits) { return static_cast<double>(digits) / 2; };
-    const auto length = step.text([&] { return word(halfOf(module.size()) + 2); });
-    const auto body   = cut.head + length + module + cut.tail;
-    return step.text([&] { return word(halfOf(body.size() + 4)); }) + body;
+    const auto bytesOf = [](const std::string& text) { return platform::utf8::length(text) / 2.0; };
+    const auto length  = step.text([&] { return word(bytesOf(module) + 2); });
+    const auto body    = cut.head + length + module + cut.tail;
+    return step.text([&] { return word(bytesOf(body) + 2); }) + body;
 }
 
 } // namespace
@@ -76,7 +77,8 @@ CtrModuleSelection::CtrModuleSelection(platform::Widget& container, const platfo
 void CtrModuleSelection::UserControl_Initialize()
 {
     paintFrames();
-    BackColor = frmModuleSelection.BackColor.get();
+    BackColor     = frmModuleSelection.BackColor.get();
+    lblTitle.Bold = true;
     // The host's document may name a module that the parameter document does not have.
     ModuleSelection.Editable = true;
     mParameterDocument       = makeDocument();
@@ -169,6 +171,8 @@ void CtrModuleSelection::listModules(const Steps& step, const IXMLDOMNode& dataf
         }
     });
     ModuleSelection.Clear();
+    // A file that cannot be read must not leave the modules of another device to choose from.
+    mParameterDocument = makeDocument();
     if (!step([&] { mParameterDocument.load(mDocumentsFolder + file); })) {
         return;
     }

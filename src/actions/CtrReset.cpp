@@ -33,6 +33,7 @@ CtrReset::CtrReset(platform::Widget& container, const platform::Design& design)
 void CtrReset::UserControl_Initialize()
 {
     paintFrames();
+    lblTitle.Bold = true;
     for (CtrComboEdit& combo : cceReset) {
         combo.setSilent(true);
     }
@@ -42,11 +43,12 @@ void CtrReset::UserControl_Initialize()
 void CtrReset::SetMessenger(Messenger* messenger)
 {
     mOnMode.drop();
-    PageView::SetMessenger(messenger);
     if (messenger != nullptr) {
+        // Before the rows, so that the host is asked before a barred row gives up the focus.
         mOnMode = messenger->ViewSetCommunicationMode.subscribe(
             [this](std::int32_t) { mMessenger_ViewSetCommunicationMode(); });
     }
+    PageView::SetMessenger(messenger);
 }
 
 void CtrReset::Localize(Translator& translator)

@@ -107,6 +107,10 @@ public:
     // IQornView
     void RequestFocus() override;
 
+protected:
+    /// This view drops what it cannot report to a host.
+    [[nodiscard]] Steps debugSteps(const char*) const override { return Steps{Steps::Outlet{}}; }
+
 private:
     void UserControl_Initialize();
     void cmdReset_Click();

@@ -2,6 +2,7 @@
 
 #include "framework/values.h"
 #include "platform/failure.h"
+#include "platform/utf8.h"
 
 #include <charconv>
 #include <cstdint>
@@ -18,8 +19,7 @@ std::optional<int> wordAt(const std::string& text, int digit)
     if (error != std::errc{} || end != digits.data() + digits.size() || digits[0] == '-') {
         return std::nullopt;
     }
-    // Four digits are a 16-bit integer, whose upper half is negative.
-    return static_cast<std::int16_t>(number);
+    return number;
 }
 
 std::string word(double number)
@@ -38,14 +38,12 @@ std::string piece(const std::string& text, int digit, int length)
     if (digit < 1 || length < 0) {
         throw platform::failure(platform::kInvalidCall);
     }
-    const auto place = static_cast<std::size_t>(digit) - 1;
-    return place >= text.size() ? std::string{}
-                                : text.substr(place, static_cast<std::size_t>(length));
+    return platform::utf8::substring(text, digit - 1, length);
 }
 
 std::string rest(const std::string& text, int digit)
 {
-    return piece(text, digit, static_cast<int>(text.size()));
+    return piece(text, digit, platform::utf8::length(text));
 }
 
 } // namespace quill::busConfiguration

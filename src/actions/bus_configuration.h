@@ -4,8 +4,9 @@
 #include <string>
 
 /// The hexadecimal configuration of a bus master, which holds the configuration of the module in
-/// its second block. Words have four digits; lengths count bytes of two digits and include the two
-/// of the length word itself:
+/// its second block. Words have four digits and no sign; lengths count bytes of two digits and
+/// include the two of the length word itself. What is no digit counts as one character all the
+/// same:
 ///
 /// | Digits | Holds |
 /// |---|---|

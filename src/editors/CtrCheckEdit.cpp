@@ -148,9 +148,7 @@ void CtrCheckEdit::fillRows()
 void CtrCheckEdit::showTexts(const Steps& step)
 {
     if (mIsLocalized) {
-        auto* const texts =
-            step.value<Translator*>(nullptr, [&] { return host().GetTranslator(); });
-        translateRows(step, texts);
+        translateRows(step, hostTexts(step));
         return;
     }
     for (int row = 1; row <= scgCheck.RowCount(); ++row) {
@@ -322,10 +320,7 @@ bool CtrCheckEdit::setOfflineData(const IXMLDOMNode& parameter)
         ShowChecks(value, kOutOfStep);
         forwardChanges();
     }
-    const bool writable = isWritable(read(step, parameter, "access"));
-    scgCheck.BackColor  = writable ? editorColors::kWhite : editorColors::kGrey;
-    scgCheck.Editable   = writable;
-    mSilent             = mSilent || !writable;
+    takeAccess(read(step, parameter, "access"));
     return true;
 }
 
@@ -388,12 +383,12 @@ void CtrCheckEdit::ViewGetChanges(std::int16_t scope)
     if (mSilent || !isAskedFor(scope)) {
         return;
     }
-    const Steps step  = steps("mMessenger_ViewGetChanges");
-    auto* const texts = step.value<Translator*>(nullptr, [&] { return host().GetTranslator(); });
+    const Steps       step       = steps("mMessenger_ViewGetChanges");
+    Translator* const translator = hostTexts(step);
     const std::string label =
-        step.value(mLabelText, [&] { return existing(texts).TranslateTag(Tag); });
+        step.value(mLabelText, [&] { return existing(translator).TranslateTag(Tag); });
     const auto translate = [&](const std::string& key) {
-        return texts == nullptr ? key : valueList::translated(step, texts, key);
+        return translator == nullptr ? key : valueList::translated(step, translator, key);
     };
     const auto join = [&](const auto& counts) {
         std::string joined;

@@ -69,7 +69,8 @@ protected:
     [[nodiscard]] platform::Widget&       box() override { return scgCheck; }
     [[nodiscard]] const platform::Widget& box() const override { return scgCheck; }
     [[nodiscard]] bool                    isLocked() const override { return !scgCheck.Editable; }
-    void                                  ViewGetChanges(std::int16_t scope) override;
+    void setLocked(bool locked) override { scgCheck.Editable = !locked; }
+    void ViewGetChanges(std::int16_t scope) override;
 
 private:
     struct Row {

@@ -10,8 +10,6 @@
 
 namespace quill {
 
-using namespace editorColors;
-
 namespace {
 
 constexpr std::int16_t kNoRow     = -1;
@@ -40,13 +38,13 @@ void setVisible(const IXMLDOMNode& entry, bool visible)
 
 } // namespace
 
-CtrComboEdit::CtrComboEdit(const platform::Design& design) : EditorBase(design)
+CtrComboEdit::CtrComboEdit(const platform::Design& design) : ListEditor(design)
 {
     start();
 }
 
 CtrComboEdit::CtrComboEdit(platform::Widget& container, const platform::Design& design)
-    : EditorBase(container, design)
+    : ListEditor(container, design)
 {
     start();
 }
@@ -74,15 +72,8 @@ void CtrComboEdit::arrange()
 
 // --- The list ---------------------------------------------------------------------------------
 
-void CtrComboEdit::SetMappings(const IXMLDOMNode& mappedParam)
+void CtrComboEdit::offerEntries(const Steps& step)
 {
-    if (!mappedParam) {
-        return;
-    }
-    const Steps step = steps("SetMappings");
-    if (!step([&] { mMappings = valueList::entriesOf(mappedParam.cloneNode(true)); })) {
-        return;
-    }
     cboBox.Clear();
     std::int32_t row = 0;
     for (const IXMLDOMNode& entry : *mMappings) {
@@ -127,7 +118,7 @@ void CtrComboEdit::Localize(Translator& translator)
 void CtrComboEdit::RefreshItemList()
 {
     const Steps step = steps("RefreshItemList");
-    fillList(step, step.value<Translator*>(nullptr, [&] { return host().GetTranslator(); }));
+    fillList(step, hostTexts(step));
 }
 
 void CtrComboEdit::SetItemVisibility(const std::string& key, bool visibility)
@@ -237,13 +228,10 @@ void CtrComboEdit::showValue(const Steps& step, const std::string& value)
     showRow(step, mSelectedIndex);
 }
 
-void CtrComboEdit::setWritable(bool writable)
+void CtrComboEdit::showEdit(const Steps& step, const std::string& value)
 {
-    cboBox.BackColor = writable ? kWhite : kGrey;
-    cboBox.Locked    = !writable;
-    if (!writable) {
-        mSilent = true;
-    }
+    // The row that a choice is compared with is still the one before.
+    showRow(step, rowOf(value));
 }
 
 bool CtrComboEdit::setOfflineData(const IXMLDOMNode& parameter)
@@ -264,41 +252,8 @@ bool CtrComboEdit::setOfflineData(const IXMLDOMNode& parameter)
     } else {
         SetModifiedForward(cboBox.ListIndex() != kNoRow);
     }
-    setWritable(isWritable(read(step, parameter, "access")));
+    takeAccess(read(step, parameter, "access"));
     return true;
-}
-
-bool CtrComboEdit::setOnlineData(const IXMLDOMNode& item)
-{
-    if (!item) {
-        return false;
-    }
-    const Steps step = steps("setOnlineData");
-    showValue(step, step.text([&] { return documents::itemValue(item, mValueType); }));
-    SetModifiedForward(false);
-    takeAsSynced();
-    return true;
-}
-
-bool CtrComboEdit::setImportData(const IXMLDOMNode& parameter)
-{
-    if (!parameter) {
-        return false;
-    }
-    const Steps step = steps("setImportData");
-    // An edit: the row that a choice is compared with is still the one before the import.
-    showRow(step, rowOf(read(step, parameter, "value")));
-    SetModifiedForward(true);
-    return true;
-}
-
-void CtrComboEdit::handleError(const std::string& code)
-{
-    if (code == "communicationError") {
-        takeAsSyncError();
-    } else if (isRefusal(code)) {
-        takeAsRefused();
-    }
 }
 
 IXMLDOMDocument CtrComboEdit::GetXmlItem(bool force)
@@ -347,12 +302,12 @@ void CtrComboEdit::ShowInfo(bool visibility, const std::string& infoTag)
 
 void CtrComboEdit::lblInfo_Click()
 {
-    const Steps       step = steps("lblInfo_Click");
-    const std::string key  = mInfoTag + "_" + GetComboText(cboBox.ListIndex());
-    auto* const texts = step.value<Translator*>(nullptr, [&] { return host().GetTranslator(); });
-    const std::string label   = step.text([&] { return existing(texts).TranslateTag(Tag); });
-    const std::string heading = step.text([&] { return existing(texts).Translate(mInfoTag); });
-    const std::string help    = step.text([&] { return existing(texts).Translate(key); });
+    const Steps       step       = steps("lblInfo_Click");
+    const std::string key        = mInfoTag + "_" + GetComboText(cboBox.ListIndex());
+    Translator* const translator = hostTexts(step);
+    const std::string label   = step.text([&] { return existing(translator).TranslateTag(Tag); });
+    const std::string heading = step.text([&] { return existing(translator).Translate(mInfoTag); });
+    const std::string help    = step.text([&] { return existing(translator).Translate(key); });
     step([&] { host().WriteLog(kLogUserInformation, "CtrComboEdit info from " + mInfoTag); });
     step([&] { host().WriteLog(kLogUserInformation, key); });
 

@@ -1,18 +1,19 @@
 #pragma once
 
-#include "editors/editor_base.h"
+#include "editors/list_editor.h"
 #include "platform/combo_box.h"
 
 #include <cstdint>
-#include <optional>
 #include <string>
 
 namespace quill {
 
-/// The editor of one parameter whose values form a list, with a sign that opens help on the chosen
-/// entry. The list is a private copy of a `data:mappedParam`; its entries can be hidden. What the
-/// user chooses goes into the datafile at once.
-class CtrComboEdit : public EditorBase, public MappedEditor {
+/// The editor of one parameter whose values form a list, in a combo box with a sign that opens help
+/// on the chosen entry. Entries can be hidden. What the user chooses goes into the datafile at
+/// once.
+///
+/// Each entry of the copy gets the attributes `comboIndex` and `visible`.
+class CtrComboEdit : public ListEditor {
 public:
     explicit CtrComboEdit(const platform::Design& design = {});
     CtrComboEdit(platform::Widget& container, const platform::Design& design = {});
@@ -21,9 +22,6 @@ public:
     platform::ComboBox cboBox{*this, {.Name = "cboBox"}};
     platform::Label    lblInfo{*this, {.Name = "lblInfo", .Caption = "?", .Visible = false}};
 
-    /// The chosen entry by its `name`, empty for none: after every value that the program shows,
-    /// and after the user has chosen another entry.
-    platform::Event<const std::string&> Change;
     /// The user has chosen an entry that differs from the original one; the argument is true. Known
     /// to hosts as `Modified`.
     platform::Event<bool> ModifiedEvent;
@@ -31,8 +29,9 @@ public:
     [[nodiscard]] const char* TypeName() const override { return "CtrComboEdit"; }
     [[nodiscard]] EditorKind  kind() const override { return EditorKind::combo; }
 
+    /// Whether the user can look but not edit.
     [[nodiscard]] bool Locked() const { return cboBox.Locked; }
-    void               setLocked(bool locked) { cboBox.Locked = locked; }
+    void               setLocked(bool locked) override { cboBox.Locked = locked; }
 
     /// Keeps the editor from booking, beside `Silent` and untouched by what the datafile says.
     [[nodiscard]] bool SilentAlltoghether() const { return mSilentAlltoghether; }
@@ -54,6 +53,7 @@ public:
     /// stem of the keys of its texts; without one the former stays.
     void ShowInfo(bool visibility, const std::string& infoTag = {});
 
+    /// Whether a value list has been taken; one of a parameter that the datafile lacks has none.
     [[nodiscard]] bool HasMappings() const { return mMappings.has_value(); }
     /// The `value` of the chosen entry as a number; -1 for no entry or one without a number.
     [[nodiscard]] std::int32_t getSelectedValue() const;
@@ -66,22 +66,17 @@ public:
     /// The `name` of the entry in a row, empty for none.
     [[nodiscard]] std::string GetComboText(std::int32_t index) const;
 
-    // MappedEditor
-    void SetMappings(const IXMLDOMNode& mappedParam) override;
     // BoundEditor
-    bool setImportData(const IXMLDOMNode& parameter) override;
     bool setOfflineData(const IXMLDOMNode& parameter) override;
-    bool setOnlineData(const IXMLDOMNode& item) override;
-    void handleError(const std::string& code) override;
+    void handleError(const std::string& code) override { handleRefusableError(code); }
     // IQornDataEditor: the item carries the chosen entry's `value`.
     IXMLDOMDocument GetXmlItem(bool force) override;
     // ILocalizable
     void Localize(Translator& translator) override;
 
-    /// The entries with `comboIndex` and `visible`, if there is a list.
-    [[nodiscard]] const std::optional<IXMLDOMNodeList>& mappings() const { return mMappings; }
+    // What the host's developer wants to see while he looks for an error: the row that counts as
+    // chosen, and the heading of the help.
     [[nodiscard]] std::int32_t       selectedIndex() const { return mSelectedIndex; }
-    [[nodiscard]] const std::string& originalText() const { return mOriginalText; }
     [[nodiscard]] const std::string& infoTag() const { return mInfoTag; }
 
 protected:
@@ -89,7 +84,12 @@ protected:
     [[nodiscard]] platform::Widget&       box() override { return cboBox; }
     [[nodiscard]] const platform::Widget& box() const override { return cboBox; }
     [[nodiscard]] bool                    isLocked() const override { return cboBox.Locked; }
+    /// The original entry is known by its `name`.
     void keepOriginal() override { mOriginalText = GetComboText(cboBox.ListIndex()); }
+    void offerEntries(const Steps& step) override;
+    /// The value is one that later choices are compared with.
+    void showValue(const Steps& step, const std::string& value) override;
+    void showEdit(const Steps& step, const std::string& value) override;
     void ViewGetChanges(std::int16_t scope) override;
 
 private:
@@ -109,13 +109,7 @@ private:
     [[nodiscard]] std::int32_t rowOf(const std::string& value) const;
     /// Shows what came from outside and tells it.
     void showRow(const Steps& step, std::int32_t row);
-    /// The same for a value that later choices are compared with.
-    void showValue(const Steps& step, const std::string& value);
-    void setWritable(bool writable);
 
-    std::optional<IXMLDOMNodeList> mMappings;
-
-    std::string  mOriginalText;
     std::string  mInfoTag;
     std::int32_t mSelectedIndex      = -1;
     bool         mSilentAlltoghether = false;

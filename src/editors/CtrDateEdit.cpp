@@ -166,21 +166,6 @@ void CtrDateEdit::takeLimits(const Steps& step, const IXMLDOMNode& parameter)
     }
 }
 
-/// A parameter that says nothing of its access leaves the editor as it is.
-void CtrDateEdit::takeAccess(const Steps& step, const IXMLDOMNode& parameter)
-{
-    step([&] {
-        const IXMLDOMNode access = platform::attributeNode(parameter, "access");
-        if (!access) {
-            return;
-        }
-        const bool writable  = isWritable(access.get_text());
-        datePicker.BackColor = writable ? editorColors::kWhite : editorColors::kGrey;
-        datePicker.Locked    = !writable;
-        mSilent              = mSilent || !writable;
-    });
-}
-
 bool CtrDateEdit::setOfflineData(const IXMLDOMNode& parameter)
 {
     if (!parameter) {
@@ -200,7 +185,7 @@ bool CtrDateEdit::setOfflineData(const IXMLDOMNode& parameter)
     } else {
         SetModifiedForward(true);
     }
-    takeAccess(step, parameter);
+    takeAccessIfTold(step, parameter);
     step([&] { Change.raise(Text()); });
     return true;
 }
@@ -229,13 +214,6 @@ bool CtrDateEdit::setImportData(const IXMLDOMNode& parameter)
     SetModifiedForward(true);
     step([&] { Change.raise(Text()); });
     return true;
-}
-
-void CtrDateEdit::handleError(const std::string& code)
-{
-    if (code == "communicationError") {
-        takeAsSyncError();
-    }
 }
 
 IXMLDOMDocument CtrDateEdit::GetXmlItem(bool force)

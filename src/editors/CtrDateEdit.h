@@ -46,7 +46,6 @@ public:
     bool setImportData(const IXMLDOMNode& parameter) override;
     bool setOfflineData(const IXMLDOMNode& parameter) override;
     bool setOnlineData(const IXMLDOMNode& item) override;
-    void handleError(const std::string& code) override;
     // IQornDataEditor. With `force` an empty editor gives what the picker shows.
     IXMLDOMDocument GetXmlItem(bool force) override;
 
@@ -61,8 +60,9 @@ protected:
     [[nodiscard]] platform::Widget&       box() override { return datePicker; }
     [[nodiscard]] const platform::Widget& box() const override { return datePicker; }
     [[nodiscard]] bool                    isLocked() const override { return datePicker.Locked; }
-    void                                  keepOriginal() override;
-    void                                  ViewGetChanges(std::int16_t scope) override;
+    void setLocked(bool locked) override { datePicker.Locked = locked; }
+    void keepOriginal() override;
+    void ViewGetChanges(std::int16_t scope) override;
 
 private:
     void start();
@@ -74,7 +74,6 @@ private:
     [[nodiscard]] platform::DateTime getDate(const std::string& text) const;
     void                             showText(const Steps& step, const std::string& text);
     void                             takeLimits(const Steps& step, const IXMLDOMNode& parameter);
-    void                             takeAccess(const Steps& step, const IXMLDOMNode& parameter);
 
     std::optional<platform::DateTime> mOriginalDate;
     /// What the picker showed when the editor became empty.

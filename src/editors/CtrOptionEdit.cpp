@@ -9,8 +9,6 @@
 
 namespace quill {
 
-using namespace editorColors;
-
 namespace {
 
 constexpr std::int32_t kRowHeight = 315;
@@ -22,13 +20,13 @@ constexpr const char* kLocalization = "localization";
 
 } // namespace
 
-CtrOptionEdit::CtrOptionEdit(const platform::Design& design) : EditorBase(design)
+CtrOptionEdit::CtrOptionEdit(const platform::Design& design) : ListEditor(design)
 {
     start();
 }
 
 CtrOptionEdit::CtrOptionEdit(platform::Widget& container, const platform::Design& design)
-    : EditorBase(container, design)
+    : ListEditor(container, design)
 {
     start();
 }
@@ -57,9 +55,8 @@ void CtrOptionEdit::arrange()
         Width = std::max(Width.get(), widest + kMarkWidth + beside);
     }
     layout(0);
-    lblModified.Height = kRowHeight;
-    lblError.Height    = kRowHeight;
-    std::int32_t top   = 0;
+    placeSigns(lblModified.Left, kRowHeight);
+    std::int32_t top = 0;
     for (const OptionOnForm& option : mOptions) {
         option.button->Top    = top;
         option.button->Width  = frmOptions.Width.get();
@@ -91,15 +88,8 @@ void CtrOptionEdit::setLocked(bool locked)
 
 // --- The options ------------------------------------------------------------------------------
 
-void CtrOptionEdit::SetMappings(const IXMLDOMNode& mappedParam)
+void CtrOptionEdit::offerEntries(const Steps& step)
 {
-    if (!mappedParam) {
-        return;
-    }
-    const Steps step = steps("SetMappings");
-    if (!step([&] { mMappings = valueList::entriesOf(mappedParam.cloneNode(true)); })) {
-        return;
-    }
     const bool hadOriginal = mOriginal != kNone;
     mEntries.clear();
     for (const IXMLDOMNode& node : *mMappings) {
@@ -159,9 +149,7 @@ void CtrOptionEdit::fillOptions()
 void CtrOptionEdit::showTexts(const Steps& step)
 {
     if (mIsLocalized) {
-        auto* const texts =
-            step.value<Translator*>(nullptr, [&] { return host().GetTranslator(); });
-        translateEntries(step, texts);
+        translateEntries(step, hostTexts(step));
         return;
     }
     for (const Entry& entry : mEntries) {
@@ -337,21 +325,6 @@ void CtrOptionEdit::showValue(const Steps& step, const std::string& value)
     step([&] { Change.raise(nameAt(mChosen)); });
 }
 
-/// A parameter that says nothing of its access leaves the editor as it is.
-void CtrOptionEdit::takeAccess(const Steps& step, const IXMLDOMNode& parameter)
-{
-    step([&] {
-        const IXMLDOMNode access = platform::attributeNode(parameter, "access");
-        if (!access) {
-            return;
-        }
-        const bool writable  = isWritable(access.get_text());
-        frmOptions.BackColor = writable ? kWhite : kGrey;
-        setLocked(!writable);
-        mSilent = mSilent || !writable;
-    });
-}
-
 bool CtrOptionEdit::setOfflineData(const IXMLDOMNode& parameter)
 {
     if (!parameter) {
@@ -371,38 +344,8 @@ bool CtrOptionEdit::setOfflineData(const IXMLDOMNode& parameter)
     } else {
         SetModifiedForward(!value.empty());
     }
-    takeAccess(step, parameter);
+    takeAccessIfTold(step, parameter);
     return true;
-}
-
-bool CtrOptionEdit::setOnlineData(const IXMLDOMNode& item)
-{
-    if (!item) {
-        return false;
-    }
-    const Steps step = steps("setOnlineData");
-    showValue(step, step.text([&] { return documents::itemValue(item, mValueType); }));
-    SetModifiedForward(false);
-    takeAsSynced();
-    return true;
-}
-
-bool CtrOptionEdit::setImportData(const IXMLDOMNode& parameter)
-{
-    if (!parameter) {
-        return false;
-    }
-    const Steps step = steps("setImportData");
-    showValue(step, read(step, parameter, "value"));
-    SetModifiedForward(true);
-    return true;
-}
-
-void CtrOptionEdit::handleError(const std::string& code)
-{
-    if (code == "communicationError") {
-        takeAsSyncError();
-    }
 }
 
 IXMLDOMDocument CtrOptionEdit::GetXmlItem(bool force)

@@ -1,22 +1,23 @@
 #pragma once
 
-#include "editors/editor_base.h"
+#include "editors/list_editor.h"
 #include "platform/buttons.h"
 
 #include <cstddef>
 #include <memory>
-#include <optional>
 #include <string>
 #include <vector>
 
 namespace quill {
 
 /// The editor of one parameter whose values form a list, with one option for each entry below the
-/// other. The list is a private copy of a `data:mappedParam`. What the user chooses goes into the
-/// datafile at once. The arrow keys move the choice, Tab leaves the group.
+/// other. What the user chooses goes into the datafile at once. The arrow keys move the choice, Tab
+/// leaves the group.
 ///
-/// The control grows where its options need more room than the form has given it.
-class CtrOptionEdit : public EditorBase, public MappedEditor {
+/// The control grows where its options need more room than the form has given it. Each entry of the
+/// copy gets the attribute `localization`, the text that is shown: the translation of its name,
+/// which `Localize` brings.
+class CtrOptionEdit : public ListEditor {
 public:
     explicit CtrOptionEdit(const platform::Design& design = {});
     CtrOptionEdit(platform::Widget& container, const platform::Design& design = {});
@@ -25,16 +26,12 @@ public:
     /// Holds the options, which are `optValue` from 0 on, each with its entry's `name` as `Tag`.
     platform::Frame frmOptions{*this, {.Name = "frmOptions"}};
 
-    /// The chosen entry by its `name`, empty for none: after every value that the program shows,
-    /// and after the user has chosen another option.
-    platform::Event<const std::string&> Change;
-
     [[nodiscard]] const char* TypeName() const override { return "CtrOptionEdit"; }
     [[nodiscard]] EditorKind  kind() const override { return EditorKind::option; }
 
     /// A locked editor shows its choice; the user cannot change it.
     [[nodiscard]] bool Locked() const { return mLocked; }
-    void               setLocked(bool locked);
+    void               setLocked(bool locked) override;
 
     /// The `value` of the chosen entry, empty for none.
     [[nodiscard]] std::string Selected() const;
@@ -56,15 +53,8 @@ public:
     /// a number is rounded first: "1.0" finds the entry "1".
     [[nodiscard]] std::string mapText(const std::string& value) const;
 
-    // MappedEditor. Each entry of the copy gets the attribute `localization`, the text that is
-    // shown: the translation of its name, which `Localize` brings.
-    void SetMappings(const IXMLDOMNode& mappedParam) override;
     // BoundEditor
-    bool setImportData(const IXMLDOMNode& parameter) override;
     bool setOfflineData(const IXMLDOMNode& parameter) override;
-    bool setOnlineData(const IXMLDOMNode& item) override;
-    /// Only "communicationError" says something about an option.
-    void handleError(const std::string& code) override;
     // IQornDataEditor: the item carries the chosen entry's `value`.
     IXMLDOMDocument GetXmlItem(bool force) override;
     // ILocalizable
@@ -77,11 +67,8 @@ public:
         return *mOptions.at(place).button;
     }
 
-    /// The entries with `localization`, if there is a list.
-    [[nodiscard]] const std::optional<IXMLDOMNodeList>& mappings() const { return mMappings; }
+    /// What the next booking and item carry: the chosen entry's `value`, empty for none.
     [[nodiscard]] const std::string& selectedValue() const { return mSelectedValue; }
-    /// The `value` of the option that choices are compared with.
-    [[nodiscard]] const std::string& originalText() const { return mOriginalText; }
 
 protected:
     [[nodiscard]] const char*             word() const override { return "Options"; }
@@ -89,8 +76,11 @@ protected:
     [[nodiscard]] const platform::Widget& box() const override { return frmOptions; }
     [[nodiscard]] bool                    isLocked() const override { return mLocked; }
     [[nodiscard]] bool isTabStop() const override { return EditorBase::isTabStop() && !mLocked; }
-    void               keepOriginal() override;
-    void               paintBoxes(platform::Color color) override;
+    /// The original entry is known by its `value`.
+    void keepOriginal() override;
+    void offerEntries(const Steps& step) override;
+    void showValue(const Steps& step, const std::string& value) override;
+    void paintBoxes(platform::Color color) override;
     /// Options stay usable whatever the communication mode.
     void ViewSetCommunicationMode(std::int32_t) override {}
     void ViewGetChanges(std::int16_t scope) override;
@@ -134,21 +124,16 @@ private:
 
     /// Shows a choice; nobody is told.
     void show(std::size_t place);
-    /// Shows what came from outside and tells it.
-    void showValue(const Steps& step, const std::string& value);
     /// A choice that is compared with the original one. `text` is what the value was mapped to,
     /// empty if it was not.
     void choose(const Steps& step, std::size_t place, const std::string& value,
                 const std::string& text);
-    void takeAccess(const Steps& step, const IXMLDOMNode& parameter);
 
-    std::optional<IXMLDOMNodeList> mMappings;
-    std::vector<Entry>             mEntries;
-    std::vector<std::string>       mAddedTags;
-    std::vector<OptionOnForm>      mOptions;
+    std::vector<Entry>        mEntries;
+    std::vector<std::string>  mAddedTags;
+    std::vector<OptionOnForm> mOptions;
 
     std::string mSelectedValue;
-    std::string mOriginalText;
     std::size_t mChosen      = kNone;
     std::size_t mOriginal    = kNone;
     bool        mLocked      = false;

@@ -10,13 +10,13 @@ namespace quill {
 
 namespace utf8 = platform::utf8;
 
-CtrTextEdit::CtrTextEdit(const platform::Design& design) : EditorBase(design)
+CtrTextEdit::CtrTextEdit(const platform::Design& design) : TypedEditor(design)
 {
     start();
 }
 
 CtrTextEdit::CtrTextEdit(platform::Widget& container, const platform::Design& design)
-    : EditorBase(container, design)
+    : TypedEditor(container, design)
 {
     start();
 }
@@ -104,11 +104,6 @@ void CtrTextEdit::Uninitialize()
     mDataNode = nullptr;
     mWriter   = {};
     setText({});
-}
-
-double CtrTextEdit::dblAComparedToB(double a, double b) const
-{
-    return numberRules::compare(a, b, mFormat.decimals);
 }
 
 void CtrTextEdit::txtBox_Change()

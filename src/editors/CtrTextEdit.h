@@ -1,7 +1,7 @@
 #pragma once
 
-#include "editors/editor_base.h"
 #include "editors/number_rules.h"
+#include "editors/typed_editor.h"
 #include "platform/text_box.h"
 
 #include <cstdint>
@@ -12,7 +12,7 @@ namespace quill {
 /// The editor of one parameter in a text box, with its unit and the signs "*" (modified) and "!"
 /// (not correct). It checks what is typed against type, limits and a partner, shows numbers in the
 /// user's unit, and writes every correct text back into the datafile in the parameter's own unit.
-class CtrTextEdit : public EditorBase {
+class CtrTextEdit : public TypedEditor {
 public:
     explicit CtrTextEdit(const platform::Design& design = {});
     CtrTextEdit(platform::Widget& container, const platform::Design& design = {});
@@ -27,10 +27,11 @@ public:
     [[nodiscard]] const char* TypeName() const override { return "CtrTextEdit"; }
     [[nodiscard]] EditorKind  kind() const override { return EditorKind::text; }
 
+    /// Whether the user can look but not edit.
     [[nodiscard]] bool Locked() const { return txtBox.Locked; }
-    void               setLocked(bool locked) { txtBox.Locked = locked; }
+    void               setLocked(bool locked) override { txtBox.Locked = locked; }
 
-    [[nodiscard]] std::string Text() const { return txtBox.Text; }
+    [[nodiscard]] std::string Text() const override { return txtBox.Text; }
     /// A value in document form, which becomes the text that edits are compared with.
     void setText(const std::string& text);
     /// Writes the box as if typed.
@@ -56,7 +57,6 @@ public:
     bool setOfflineData(const IXMLDOMNode& parameter) override;
     bool setOnlineData(const IXMLDOMNode& item) override;
     bool setLocalData(const IXMLDOMNode& item) override;
-    void handleError(const std::string& code) override;
     // IQornDataEditor
     IXMLDOMDocument GetXmlItem(bool force) override;
     /// The item whatever the text is; an empty document while `Tag` or type are empty.
@@ -72,22 +72,13 @@ public:
     /// The partner's value in the parameter's unit has moved.
     void setPairLimit(double limit, const std::string& pairLimitingWhat);
 
-    /// Below 0, 0 or above 0 for a below, equal to or above b, equal within a tolerance of 0.9
-    /// units of the last but one decimal place behind those shown. "No limit" is beyond everything.
-    [[nodiscard]] double dblAComparedToB(double a, double b) const;
     /// The form of a text in documents: "." as separator, in the parameter's unit. Where the unit
     /// on screen cannot be converted it becomes the parameter's unit for good.
     [[nodiscard]] std::string FormatForCommunication(const std::string& text);
 
-    [[nodiscard]] const std::string& originalText() const { return mOriginalText; }
-    [[nodiscard]] const std::string& messageUnit() const { return mMessageUnit; }
-    [[nodiscard]] const std::string& numberFormat() const { return mFormat.pattern; }
-    [[nodiscard]] const std::string& accessText() const { return mAccessText; }
+    // What the host's developer wants to see while he looks for an error. A pair's limits are in
+    // the parameter's unit, and there is no partner without a pair.
     [[nodiscard]] const std::string& decimalSeparator() const { return mDecimalSeparator; }
-    [[nodiscard]] std::int16_t       decimalCount() const { return mFormat.decimals; }
-    [[nodiscard]] double             limitMin() const { return mLimits.min; }
-    [[nodiscard]] double             limitMax() const { return mLimits.max; }
-    [[nodiscard]] bool               allowEmpty() const { return mAllowEmpty; }
     [[nodiscard]] bool               packedAscii() const { return mPackedAscii; }
     [[nodiscard]] double             pairUpperLimit() const { return mPairUpperLimit; }
     [[nodiscard]] double             pairLowerLimit() const { return mPairLowerLimit; }
@@ -107,10 +98,7 @@ protected:
     [[nodiscard]] platform::Widget&       box() override { return txtBox; }
     [[nodiscard]] const platform::Widget& box() const override { return txtBox; }
     [[nodiscard]] bool                    isLocked() const override { return txtBox.Locked; }
-    void keepOriginal() override { mOriginalText = txtBox.Text.get(); }
-    void messengerChanged(Messenger* messenger) override;
-    void ViewGetChanges(std::int16_t scope) override;
-    void forwardChanges() override { forwardCheckedChanges(); }
+    void                                  messengerChanged(Messenger* messenger) override;
 
 private:
     void start();
@@ -149,9 +137,6 @@ private:
     [[nodiscard]] std::string formatted(const std::string& text) const;
     CtrTextEdit*& partner(bool isMin) { return isMin ? mPairMinPartner : mPairMaxPartner; }
 
-    std::string  mOriginalText;
-    std::string  mMessageUnit = "noUnit";
-    std::string  mAccessText;
     std::string  mDecimalSeparator;
     double       mPairUpperLimit    = kUpperSentinel;
     double       mPairLowerLimit    = kLowerSentinel;
@@ -160,11 +145,7 @@ private:
     CtrTextEdit* mPairMinPartner    = nullptr;
     CtrTextEdit* mPairMaxPartner    = nullptr;
 
-    numberRules::Limits mLimits;
-    numberRules::Format mFormat;
-
     IXMLDOMDocument mItemDocument;
-    bool            mAllowEmpty  = true;
     bool            mPackedAscii = false;
 
     platform::Subscription mOnUnits;

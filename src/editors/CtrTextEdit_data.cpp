@@ -8,13 +8,7 @@
 
 namespace quill {
 
-using namespace editorColors;
-
-namespace {
-
-constexpr const char* kNoUnit = "noUnit";
-
-} // namespace
+using documents::kNoUnit;
 
 bool CtrTextEdit::setOfflineData(const IXMLDOMNode& parameter)
 {
@@ -28,13 +22,10 @@ bool CtrTextEdit::setOfflineData(const IXMLDOMNode& parameter)
 
     if (values::isNumericType(mValueType)) {
         txtBox.Alignment = static_cast<std::int32_t>(platform::TextAlignment::right);
-        mLimits          = numberRules::readLimits(step, parameter, mValueType, mLimits);
+        takeNumberForm(step, parameter);
         if (values::isFloatType(mValueType)) {
-            mFormat = numberRules::readFormat(step, parameter, mFormat);
-            value   = values::replaceAll(value, ".", mDecimalSeparator);
+            value = values::replaceAll(value, ".", mDecimalSeparator);
         }
-        const std::string unit = read(step, parameter, "unit");
-        mMessageUnit           = unit.empty() ? kNoUnit : unit;
         showLimits();
         value = toDisplayUnit(step, parameter, value);
     } else {
@@ -47,30 +38,8 @@ bool CtrTextEdit::setOfflineData(const IXMLDOMNode& parameter)
     // Read before the text is written, which turns the mark to "not in step".
     const std::string synchronised = read(step, parameter, "synchronised");
     setText(value);
-    if (synchronised == "1") {
-        setModified(false);
-        takeAsSynced();
-        forwardChanges();
-    } else if (synchronised == "2") {
-        handleError("communicationError");
-    } else {
-        if (txtBox.Text.get().empty()) {
-            setModified(false);
-        } else {
-            setModified(true);
-            mOriginalText.clear();
-        }
-        forwardChanges();
-    }
-
-    mAccessText      = read(step, parameter, "access");
-    txtBox.BackColor = kWhite;
-    txtBox.Locked    = false;
-    if (!isWritable(mAccessText)) {
-        txtBox.BackColor = kGrey;
-        txtBox.Locked    = true;
-        mSilent          = true;
-    }
+    takeMark(synchronised);
+    takeAccess(read(step, parameter, "access"));
     step([&] { Change.raise(txtBox.Text); });
     return true;
 }
@@ -78,7 +47,7 @@ bool CtrTextEdit::setOfflineData(const IXMLDOMNode& parameter)
 std::string CtrTextEdit::inVisibleUnit(const Steps& step, const IXMLDOMNode& item,
                                        const std::string& text, bool isLocal)
 {
-    const std::string unit    = unitOfItem(step, item, mMessageUnit, isLocal);
+    const std::string unit    = unitOfItem(step, item, isLocal);
     const std::string visible = visibleUnit();
     if (unit == visible) {
         return text;
@@ -109,11 +78,9 @@ bool CtrTextEdit::setOnlineData(const IXMLDOMNode& item)
         return false;
     }
     const Steps step = steps("setOnlineData");
-    if (values::isNumericType(mValueType) && values::contains(mAccessText, "readWrite")) {
-        mAllowEmpty = false;
-    }
+    forbidEmpty();
     std::string text = step.text([&] { return documents::itemValue(item, mValueType); });
-    if (mMessageUnit != kNoUnit && text != "NaN" && text != "-Inf") {
+    if (hasUnit(text)) {
         text = inVisibleUnit(step, item, text, false);
     }
     setText(text);
@@ -131,7 +98,7 @@ bool CtrTextEdit::setLocalData(const IXMLDOMNode& item)
     }
     const Steps step = steps("setLocalData");
     std::string text = step.text([&] { return documents::itemValue(item, mValueType); });
-    if (mMessageUnit != kNoUnit && text != "NaN" && text != "-Inf") {
+    if (hasUnit(text)) {
         text = inVisibleUnit(step, item, text, true);
     }
     EditText(text);
@@ -171,23 +138,6 @@ bool CtrTextEdit::setImportData(const IXMLDOMNode& parameter)
     forwardChanges();
     step([&] { Change.raise(txtBox.Text); });
     return true;
-}
-
-void CtrTextEdit::handleError(const std::string& code)
-{
-    handleCheckedError(code);
-}
-
-void CtrTextEdit::ViewGetChanges(std::int16_t scope)
-{
-    if (!Correct() || mSilent || !isAskedFor(scope)) {
-        return;
-    }
-    const Steps step = steps("mMessenger_ViewGetChanges");
-    step([&] {
-        host().BookChange(*this, Tag, mLabelText, mOriginalText, txtBox.Text, {}, mValueType,
-                          mContextTag);
-    });
 }
 
 IXMLDOMDocument CtrTextEdit::GetXmlItem(bool force)

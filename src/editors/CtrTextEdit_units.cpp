@@ -10,11 +10,7 @@
 
 namespace quill {
 
-namespace {
-
-constexpr const char* kNoUnit = "noUnit";
-
-} // namespace
+using documents::kNoUnit;
 
 UnitConverter* CtrTextEdit::converter(const Steps& step) const
 {
@@ -163,7 +159,7 @@ std::string CtrTextEdit::toDisplayUnit(const Steps& step, const IXMLDOMNode& par
     std::string    result  = text;
     std::string    display = mMessageUnit;
     UnitConverter* units   = nullptr;
-    if (hasConvertibleUnit() && text != "NaN" && text != "-Inf") {
+    if (hasConvertibleUnit() && hasUnit(text)) {
         units = converter(step);
     }
     if (units != nullptr) {

@@ -10,8 +10,6 @@
 
 namespace quill {
 
-using namespace editorColors;
-
 namespace {
 
 constexpr const char* kSeconds = "s";
@@ -23,21 +21,15 @@ constexpr std::int32_t kSignGap      = 100;
 
 } // namespace
 
-CtrTimeEdit::CtrTimeEdit(const platform::Design& design) : EditorBase(design)
+CtrTimeEdit::CtrTimeEdit(const platform::Design& design) : TypedEditor(design)
 {
-    if (design.Width == 0) {
-        Width = kDefaultWidth;
-    }
-    start();
+    start(design);
 }
 
 CtrTimeEdit::CtrTimeEdit(platform::Widget& container, const platform::Design& design)
-    : EditorBase(container, design)
+    : TypedEditor(container, design)
 {
-    if (design.Width == 0) {
-        Width = kDefaultWidth;
-    }
-    start();
+    start(design);
 }
 
 CtrTimeEdit::~CtrTimeEdit()
@@ -45,8 +37,11 @@ CtrTimeEdit::~CtrTimeEdit()
     SetMessenger(nullptr);
 }
 
-void CtrTimeEdit::start()
+void CtrTimeEdit::start(const platform::Design& design)
 {
+    if (design.Width == 0) {
+        Width = kDefaultWidth;
+    }
     arrange();
     mOnResize = Resize.subscribe([this] { arrange(); });
     for (std::size_t i = 0; i < txtBox.size(); ++i) {
@@ -86,10 +81,7 @@ void CtrTimeEdit::arrange()
         lblUnit[i].Left  = left + boxWidth + kGap;
         left += boxWidth + lblUnit[i].Width + 2 * kGap;
     }
-    lblModified.Left   = left + kSignGap;
-    lblError.Left      = lblModified.Left + lblModified.Width;
-    lblModified.Height = Height.get();
-    lblError.Height    = Height.get();
+    placeSigns(left + kSignGap, Height);
 }
 
 void CtrTimeEdit::setLocked(bool locked)
@@ -232,11 +224,6 @@ void CtrTimeEdit::txtBox_Change()
     }
 }
 
-double CtrTimeEdit::dblAComparedToB(double a, double b) const
-{
-    return numberRules::compare(a, b, mFormat.decimals);
-}
-
 std::string CtrTimeEdit::FormatForCommunication(const std::string& text) const
 {
     if (mValueType != "floatVal") {
@@ -249,24 +236,6 @@ std::string CtrTimeEdit::FormatForCommunication(const std::string& text) const
 
 // --- Values from documents --------------------------------------------------------------------
 
-/// A parameter that says nothing of its access leaves the editor as it is.
-void CtrTimeEdit::takeAccess(const Steps& step, const IXMLDOMNode& parameter)
-{
-    step([&] {
-        const IXMLDOMNode access = platform::attributeNode(parameter, "access");
-        if (!access) {
-            return;
-        }
-        mAccessText         = access.get_text();
-        const bool writable = isWritable(mAccessText);
-        for (platform::TextBox& box : txtBox) {
-            box.BackColor = writable ? kWhite : kGrey;
-        }
-        setLocked(!writable);
-        mSilent = mSilent || !writable;
-    });
-}
-
 bool CtrTimeEdit::setOfflineData(const IXMLDOMNode& parameter)
 {
     if (!parameter) {
@@ -275,33 +244,14 @@ bool CtrTimeEdit::setOfflineData(const IXMLDOMNode& parameter)
     const Steps step = steps("setOfflineData");
     bindTo(parameter);
     mValueType = read(step, parameter, "type");
-    mLimits    = numberRules::readLimits(step, parameter, mValueType, mLimits);
-    if (values::isFloatType(mValueType)) {
-        mFormat = numberRules::readFormat(step, parameter, mFormat);
-    }
-    const std::string unit         = read(step, parameter, "unit");
-    mMessageUnit                   = unit.empty() ? documents::kNoUnit : unit;
+    takeNumberForm(step, parameter);
     const std::string value        = read(step, parameter, "value");
     const std::string synchronised = read(step, parameter, "synchronised");
     if (!letText(value)) {
         setText({});
     }
-    if (synchronised == "1") {
-        setModified(false);
-        takeAsSynced();
-        forwardChanges();
-    } else if (synchronised == "2") {
-        handleError("communicationError");
-    } else {
-        if (Text().empty()) {
-            setModified(false);
-        } else {
-            setModified(true);
-            mOriginalText.clear();
-        }
-        forwardChanges();
-    }
-    takeAccess(step, parameter);
+    takeMark(synchronised);
+    takeAccessIfTold(step, parameter);
     step([&] { Change.raise(Text()); });
     return true;
 }
@@ -312,13 +262,9 @@ bool CtrTimeEdit::setOnlineData(const IXMLDOMNode& item)
         return false;
     }
     const Steps step = steps("setOnlineData");
-    if (values::isNumericType(mValueType) && values::contains(mAccessText, "readWrite")) {
-        mAllowEmpty = false;
-    }
+    forbidEmpty();
     const std::string text = step.text([&] { return documents::itemValue(item, mValueType); });
-    const std::string unit = mMessageUnit != documents::kNoUnit && text != "NaN" && text != "-Inf"
-                                 ? unitOfItem(step, item, mMessageUnit, false)
-                                 : mMessageUnit;
+    const std::string unit = hasUnit(text) ? unitOfItem(step, item, false) : mMessageUnit;
     // A unit of the message's own is not rounded to the parameter's decimals, which mean another.
     if (!(unit == mMessageUnit ? letText(text) : show(text, unit))) {
         setText({});
@@ -345,11 +291,6 @@ bool CtrTimeEdit::setImportData(const IXMLDOMNode& parameter)
     return true;
 }
 
-void CtrTimeEdit::handleError(const std::string& code)
-{
-    handleCheckedError(code);
-}
-
 IXMLDOMDocument CtrTimeEdit::GetXmlItem(bool force)
 {
     const std::string text = Text();
@@ -357,18 +298,6 @@ IXMLDOMDocument CtrTimeEdit::GetXmlItem(bool force)
         return {};
     }
     return itemOf(steps("getXmlItem"), mValueType, FormatForCommunication(text), mMessageUnit);
-}
-
-void CtrTimeEdit::ViewGetChanges(std::int16_t scope)
-{
-    if (!Correct() || mSilent || !isAskedFor(scope)) {
-        return;
-    }
-    const Steps step = steps("mMessenger_ViewGetChanges");
-    step([&] {
-        host().BookChange(*this, Tag, mLabelText, mOriginalText, Text(), {}, mValueType,
-                          mContextTag);
-    });
 }
 
 } // namespace quill

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "editors/duration.h"
-#include "editors/editor_base.h"
-#include "editors/number_rules.h"
+#include "editors/typed_editor.h"
 #include "platform/text_box.h"
 
 #include <array>
@@ -15,7 +14,7 @@ namespace quill {
 /// The editor of one parameter that is a duration, in boxes for days, hours, minutes and seconds.
 /// The parameter holds one number in a unit of its own, which is what `Text`, limits, bookings and
 /// items carry. Without a converter of the host only the unit "s" can be shown.
-class CtrTimeEdit : public EditorBase {
+class CtrTimeEdit : public TypedEditor {
 public:
     explicit CtrTimeEdit(const platform::Design& design = {});
     CtrTimeEdit(platform::Widget& container, const platform::Design& design = {});
@@ -38,13 +37,14 @@ public:
     [[nodiscard]] const char* TypeName() const override { return "CtrTimeEdit"; }
     [[nodiscard]] EditorKind  kind() const override { return EditorKind::time; }
 
+    /// Whether the user can look but not edit.
     [[nodiscard]] bool Locked() const { return txtBox[0].Locked; }
-    void               setLocked(bool locked);
+    void               setLocked(bool locked) override;
 
     /// The duration as one number in the parameter's unit, in the form of the parameter; empty if
     /// no box holds a number or the host cannot convert it. A box that holds anything else does not
     /// count.
-    [[nodiscard]] std::string Text() const;
+    [[nodiscard]] std::string Text() const override;
     /// A number in the parameter's unit, which becomes the one that edits are compared with.
     void setText(const std::string& text);
     /// Shows a number in the parameter's unit in the boxes. What is no number is 0, and an empty
@@ -57,23 +57,11 @@ public:
     bool setImportData(const IXMLDOMNode& parameter) override;
     bool setOfflineData(const IXMLDOMNode& parameter) override;
     bool setOnlineData(const IXMLDOMNode& item) override;
-    void handleError(const std::string& code) override;
     // IQornDataEditor
     IXMLDOMDocument GetXmlItem(bool force) override;
 
-    /// As in the text editor.
-    [[nodiscard]] double dblAComparedToB(double a, double b) const;
     /// The form of a text in documents: "." as separator.
     [[nodiscard]] std::string FormatForCommunication(const std::string& text) const;
-
-    [[nodiscard]] const std::string& originalText() const { return mOriginalText; }
-    [[nodiscard]] const std::string& messageUnit() const { return mMessageUnit; }
-    [[nodiscard]] const std::string& numberFormat() const { return mFormat.pattern; }
-    [[nodiscard]] const std::string& accessText() const { return mAccessText; }
-    [[nodiscard]] std::int16_t       decimalCount() const { return mFormat.decimals; }
-    [[nodiscard]] double             limitMin() const { return mLimits.min; }
-    [[nodiscard]] double             limitMax() const { return mLimits.max; }
-    [[nodiscard]] bool               allowEmpty() const { return mAllowEmpty; }
 
 protected:
     [[nodiscard]] const char*             word() const override { return "TimeEdit"; }
@@ -82,12 +70,9 @@ protected:
     [[nodiscard]] std::size_t             boxCount() const override { return txtBox.size(); }
     [[nodiscard]] platform::Widget& boxAt(std::size_t place) override { return txtBox[place]; }
     [[nodiscard]] bool              isLocked() const override { return Locked(); }
-    void                            keepOriginal() override { mOriginalText = Text(); }
-    void                            forwardChanges() override { forwardCheckedChanges(); }
-    void                            ViewGetChanges(std::int16_t scope) override;
 
 private:
-    void start();
+    void start(const platform::Design& design);
     void arrange();
     void txtBox_Change();
 
@@ -104,15 +89,8 @@ private:
     [[nodiscard]] bool isEmpty() const;
     /// Whether the parameter can take a text.
     [[nodiscard]] bool isAllowed(const Steps& step, const std::string& text) const;
-    void               takeAccess(const Steps& step, const IXMLDOMNode& parameter);
 
-    std::string         mOriginalText;
-    std::string         mMessageUnit = documents::kNoUnit;
-    std::string         mAccessText;
-    numberRules::Limits mLimits;
-    numberRules::Format mFormat;
-    bool                mAllowEmpty = true;
-    bool                mIsShowing  = false; ///< the program writes the boxes
+    bool mIsShowing = false; ///< the program writes the boxes
 
     std::array<platform::Subscription, duration::kParts> mOnChange;
     std::array<platform::Subscription, duration::kParts> mOnKey;

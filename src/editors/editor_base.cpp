@@ -37,10 +37,15 @@ void EditorBase::layout(std::int32_t unitWidth)
     const std::int32_t signs = lblModified.Width + lblError.Width;
     box().Width              = std::max(0, Width - signs - unitWidth - kGap);
     box().Height             = Height.get();
-    lblModified.Left         = box().Width + unitWidth + kGap;
-    lblError.Left            = lblModified.Left + lblModified.Width;
-    lblModified.Height       = Height.get();
-    lblError.Height          = Height.get();
+    placeSigns(box().Width + unitWidth + kGap, Height);
+}
+
+void EditorBase::placeSigns(std::int32_t left, std::int32_t height)
+{
+    lblModified.Left   = left;
+    lblError.Left      = left + lblModified.Width;
+    lblModified.Height = height;
+    lblError.Height    = height;
 }
 
 void EditorBase::paintBoxes(platform::Color color)
@@ -74,64 +79,6 @@ void EditorBase::setModified(bool modified)
 void EditorBase::paintText()
 {
     paintBoxes(!Correct() ? kRed : Modified() ? kBlue : platform::kWindowText);
-}
-
-void EditorBase::forwardCheckedChanges()
-{
-    if (messenger() == nullptr) {
-        return;
-    }
-    const Steps step = steps("forwardChanges");
-    const auto  move = [&](const char* state) {
-        mChangeState = state;
-        step([&] { reportState(state); });
-    };
-    if (mChangeState == "original" && Modified()) {
-        move("edited");
-    } else if (mChangeState == "editedError" && Correct()) {
-        move("corrected");
-    }
-    if (mChangeState == "edited" || mChangeState == "corrected") {
-        if (!Correct()) {
-            move("editedError");
-        } else if (!Modified()) {
-            move("original");
-        }
-    }
-}
-
-void EditorBase::handleCheckedError(const std::string& code)
-{
-    if (code == "missingItems" || code == "commandIsNotImplemented") {
-        setModified(true);
-        setCorrect(false);
-        forwardChanges();
-    } else if (code == "communicationError") {
-        takeAsSyncError();
-    } else if (isRefusal(code)) {
-        takeAsRefused();
-    }
-}
-
-std::string EditorBase::unitOfItem(const Steps& step, const IXMLDOMNode& item,
-                                   const std::string& datafileUnit, bool isLocal) const
-{
-    const std::string unit = read(step, item, "unit");
-    if (unit == datafileUnit) {
-        return unit;
-    }
-    const std::string mismatch =
-        Tag.get() + " viestin yksikkö " + unit + " <> " + datafileUnit + " Datafilessä!\r\n";
-    if (unit != documents::kNoUnit && !unit.empty()) {
-        step([&] { host().WriteLog(kLogUnit, mismatch + "Käytän VIESTIN yksikköä " + unit); });
-        return unit;
-    }
-    if (!isLocal) {
-        step([&] {
-            host().WriteLog(kLogUnit, mismatch + "Käytän Datafilen yksikköä " + datafileUnit);
-        });
-    }
-    return datafileUnit;
 }
 
 } // namespace quill

@@ -38,18 +38,10 @@ protected:
     virtual void keepOriginal() = 0;
     void         paintText() override;
 
-    /// Moves the change state of a value that can be wrong: beside "original" and "edited" there
-    /// are "editedError" and "corrected".
-    void forwardCheckedChanges();
-    /// What an error code says about such a value.
-    void handleCheckedError(const std::string& code);
-    /// The unit of an item's value. The item's own counts where it has one, else the one of the
-    /// datafile; that the two differ is logged, for a local value only where the item's own counts.
-    [[nodiscard]] std::string unitOfItem(const Steps& step, const IXMLDOMNode& item,
-                                         const std::string& datafileUnit, bool isLocal) const;
-
-    /// Places the signs and what else stands right of the box; `unitWidth` is what lies between.
+    /// Gives the box the room that is left of the signs and of `unitWidth`, which lies between.
     void layout(std::int32_t unitWidth);
+    /// Places the signs beside each other.
+    void placeSigns(std::int32_t left, std::int32_t height);
 
     /// Colours the value.
     virtual void paintBoxes(platform::Color color);

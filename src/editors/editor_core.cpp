@@ -12,6 +12,13 @@ namespace {
 constexpr std::int32_t kDefaultWidth  = 2400;
 constexpr std::int32_t kDefaultHeight = 315;
 
+/// Whether an error code is one by which the device refuses a value.
+bool isRefusal(const std::string& code)
+{
+    return code == "hartCmdErrSuspiciousCalibration" ||
+           code == "hartCmdErrRecipeNotCalibratedOrPulpTypeNotAllowed";
+}
+
 } // namespace
 
 EditorCore::EditorCore(const platform::Design& design) : Control(design)
@@ -96,6 +103,11 @@ Messenger& EditorCore::host() const
     return *mMessenger;
 }
 
+Translator* EditorCore::hostTexts(const Steps& step) const
+{
+    return step.value<Translator*>(nullptr, [&] { return host().GetTranslator(); });
+}
+
 void EditorCore::bindTo(const IXMLDOMNode& parameter)
 {
     if (!mDataNode) {
@@ -159,17 +171,22 @@ void EditorCore::takeAsSyncError()
     step([&] { reportState(mSyncState); });
 }
 
-void EditorCore::takeAsRefused()
+void EditorCore::handleError(const std::string& code)
 {
-    setModified(false);
-    forwardChanges();
-    takeAsSynced();
+    if (code == "communicationError") {
+        takeAsSyncError();
+    }
 }
 
-bool EditorCore::isRefusal(const std::string& code)
+void EditorCore::handleRefusableError(const std::string& code)
 {
-    return code == "hartCmdErrSuspiciousCalibration" ||
-           code == "hartCmdErrRecipeNotCalibratedOrPulpTypeNotAllowed";
+    if (isRefusal(code)) {
+        setModified(false);
+        forwardChanges();
+        takeAsSynced();
+    } else {
+        EditorCore::handleError(code);
+    }
 }
 
 bool EditorCore::isAskedFor(std::int16_t scope) const
@@ -199,9 +216,28 @@ IXMLDOMDocument EditorCore::itemOf(const Steps& step, const std::string& type,
     });
 }
 
-bool EditorCore::isWritable(const std::string& access)
+void EditorCore::setWritable(bool writable)
 {
-    return values::containsNoCase(access, "write");
+    for (std::size_t i = 0; i < boxCount(); ++i) {
+        boxAt(i).BackColor = writable ? editorColors::kWhite : editorColors::kGrey;
+    }
+    setLocked(!writable);
+    mSilent = mSilent || !writable;
+}
+
+void EditorCore::takeAccess(const std::string& access)
+{
+    mAccessText = access;
+    setWritable(values::containsNoCase(access, "write"));
+}
+
+void EditorCore::takeAccessIfTold(const Steps& step, const IXMLDOMNode& parameter)
+{
+    step([&] {
+        if (const IXMLDOMNode access = platform::attributeNode(parameter, "access")) {
+            takeAccess(access.get_text());
+        }
+    });
 }
 
 } // namespace quill

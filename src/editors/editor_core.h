@@ -34,6 +34,7 @@ public:
     /// Sets `Modified` and moves the change state.
     void SetModifiedForward(bool modified);
 
+    /// Whether the box takes anything from the user.
     [[nodiscard]] virtual bool Enabled() const;
     /// Disables or enables the box and paints it; does nothing while the editor is silent because
     /// its parameter cannot be written.
@@ -45,6 +46,8 @@ public:
 
     [[nodiscard]] std::string ContextTag() const override { return mContextTag; }
     void                      setContextTag(const std::string& tag) override { mContextTag = tag; }
+    /// Of all codes "communicationError" says something about any value.
+    void handleError(const std::string& code) override;
 
     /// Whether the editor is bound to a parameter of the datafile.
     [[nodiscard]] bool IsInitialized() const { return static_cast<bool>(mDataNode); }
@@ -77,7 +80,8 @@ protected:
     /// An editor whose box is disabled counts as disabled.
     [[nodiscard]] bool isTabStop() const override { return Control::isTabStop() && Enabled(); }
     /// Whether the user is kept from changing the value although the box is enabled.
-    [[nodiscard]] virtual bool isLocked() const { return false; }
+    [[nodiscard]] virtual bool isLocked() const       = 0;
+    virtual void               setLocked(bool locked) = 0;
     /// Colour of the text by the state of the value.
     virtual void paintText() {}
     /// Called with every Messenger that is stored, also with none: the place to take or drop events
@@ -93,7 +97,9 @@ protected:
     }
     /// The services of the host; failure 91 while there is no Messenger.
     [[nodiscard]] Messenger& host() const;
-    [[nodiscard]] Messenger* messenger() const { return mMessenger; }
+    /// Its texts; nothing, with a report where they cannot be had.
+    [[nodiscard]] Translator* hostTexts(const Steps& step) const;
+    [[nodiscard]] Messenger*  messenger() const { return mMessenger; }
 
     /// The first data node stays; later ones are ignored.
     void bindTo(const IXMLDOMNode& parameter);
@@ -112,10 +118,9 @@ protected:
     void takeAsSynced();
     /// The device did not answer.
     void takeAsSyncError();
-    /// The device answered and refused: what stands there counts as in step.
-    void takeAsRefused();
-    /// Whether an error code is one by which the device refuses.
-    [[nodiscard]] static bool isRefusal(const std::string& code);
+    /// What an error code says of a value that the device can refuse: what stands there then counts
+    /// as in step.
+    void handleRefusableError(const std::string& code);
     /// Whether `ViewGetChanges` with this scope is meant for this editor.
     [[nodiscard]] bool isAskedFor(std::int16_t scope) const;
     /// Writes `value` and the mark "not in step" into the datafile.
@@ -124,12 +129,17 @@ protected:
     [[nodiscard]] IXMLDOMDocument itemOf(const Steps& step, const std::string& type,
                                          const std::string& value,
                                          const std::string& unit = documents::kNoUnit) const;
-    /// Makes the box read-only where `access` does not contain "write" in any letter case.
-    [[nodiscard]] static bool isWritable(const std::string& access);
+    /// Lets the user change the value or not; an editor that was not writable once stays silent.
+    void setWritable(bool writable);
+    /// Writable is what contains "write" in any letter case.
+    void takeAccess(const std::string& access);
+    /// A parameter that says nothing of its access leaves the editor as it is.
+    void takeAccessIfTold(const Steps& step, const IXMLDOMNode& parameter);
 
     std::string                mContextTag;
     std::string                mLabelText;
     std::string                mValueType;
+    std::string                mAccessText;
     std::string                mChangeState = "original";
     std::string                mSyncState   = "notRead";
     IXMLDOMNode                mDataNode;

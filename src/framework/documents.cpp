@@ -1,13 +1,13 @@
 #include "framework/documents.h"
 
+#include "framework/name_table.h"
 #include "framework/prefix_table.h"
 #include "platform/failure.h"
 #include "platform/utf8.h"
 
 #include <algorithm>
 #include <array>
-#include <bit>
-#include <cstdint>
+#include <functional>
 #include <limits>
 #include <memory>
 #include <optional>
@@ -46,61 +46,10 @@ constexpr Place kItems{4, "comm:dtm", "/comm:communicationResponse/comm:item"};
 
 constexpr std::size_t kPlaces = 5;
 
-/// The named elements of one place, in document order, with a flat hash table over their names.
-/// Those of one name form a chain.
-class Table {
-public:
-    /// `count` elements will be added.
-    explicit Table(std::size_t count) : mBuckets(std::bit_ceil(2 * count + 1), kNone)
-    {
-        mEntries.reserve(count);
-    }
-    void add(std::string name, NodeMark node)
-    {
-        const auto place  = static_cast<std::uint32_t>(mEntries.size());
-        auto&      bucket = mBuckets[bucketOf(name)];
-        mEntries.push_back({std::move(name), node, kNone});
-        if (bucket == kNone) {
-            bucket                     = place;
-            mEntries[place].lastOfName = place;
-            return;
-        }
-        Entry& first                    = mEntries[bucket];
-        mEntries[first.lastOfName].next = place;
-        first.lastOfName                = place;
-    }
-    /// Visits the elements of a name in document order, as long as `visit` answers true.
-    template <class Visit>
-    void visit(const std::string& name, Visit&& visit) const
-    {
-        for (std::uint32_t at = mBuckets[bucketOf(name)];
-             at != kNone && visit(mEntries[at].node);) {
-            at = mEntries[at].next;
-        }
-    }
-
-private:
-    static constexpr std::uint32_t kNone = std::numeric_limits<std::uint32_t>::max();
-    struct Entry {
-        std::string   name;
-        NodeMark      node;
-        std::uint32_t next;
-        std::uint32_t lastOfName = kNone; ///< kept by the first of a name
-    };
-
-    /// Where the first element of this name stands, or would.
-    [[nodiscard]] std::size_t bucketOf(const std::string& name) const
-    {
-        const std::size_t mask = mBuckets.size() - 1;
-        std::size_t       at   = std::hash<std::string>{}(name)&mask;
-        while (mBuckets[at] != kNone && mEntries[mBuckets[at]].name != name) {
-            at = (at + 1) & mask;
-        }
-        return at;
-    }
-
-    std::vector<Entry>         mEntries;
-    std::vector<std::uint32_t> mBuckets;
+/// The named elements of one place, in document order.
+struct Table {
+    NameTable             names;
+    std::vector<NodeMark> elements;
 };
 
 /// The elements of one place in document order, and their names by how they begin. An element
@@ -119,51 +68,59 @@ struct Index {
     std::optional<ByPrefix>                   itemsByPrefix;
 };
 
-std::vector<IXMLDOMNode> elementsAt(const IXMLDOMDocument& document, const Place& place)
+using Visit = std::function<void(const IXMLDOMNode&)>;
+
+/// Visits what a path selects from here; all its steps are of the namespace of `parent`.
+void visitBelow(const IXMLDOMNode& parent, std::string_view path, const Visit& visit)
+{
+    const auto             colon = path.find(':');
+    const auto             end   = std::min(path.find('/', colon), path.size());
+    const std::string_view name  = path.substr(colon + 1, end - colon - 1);
+    const std::string_view rest  = path.substr(end);
+    platform::visitChildElements(parent, parent.get_namespaceURI(), name,
+                                 [&](const IXMLDOMNode& child) {
+                                     if (rest.empty()) {
+                                         visit(child);
+                                     } else {
+                                         visitBelow(child, rest, visit);
+                                     }
+                                 });
+}
+
+/// Visits the elements of a place in document order, each with its attribute `name`, if any.
+template <class F>
+void visitElements(const IXMLDOMDocument& document, const Place& place, F&& visit)
 {
     // The root is selected by its expression, so that the document's own prefixes decide what the
     // namespace is and a missing one fails as it does in the whole expression.
-    const IXMLDOMNodeList    roots = document.selectNodes(place.root);
-    std::vector<IXMLDOMNode> level(roots.begin(), roots.end());
-    std::string_view         rest = place.rest;
-    while (!rest.empty()) {
-        const auto             colon = rest.find(':');
-        const auto             end   = std::min(rest.find('/', colon), rest.size());
-        const std::string_view name  = rest.substr(colon + 1, end - colon - 1);
-        rest.remove_prefix(end);
-
-        std::vector<IXMLDOMNode> next;
-        for (const IXMLDOMNode& parent : level) {
-            auto children = platform::childElements(parent, parent.get_namespaceURI(), name);
-            std::move(children.begin(), children.end(), std::back_inserter(next));
-        }
-        level = std::move(next);
+    for (const IXMLDOMNode& root : document.selectNodes(place.root)) {
+        visitBelow(root, place.rest, [&](const IXMLDOMNode& element) {
+            visit(element, attributeNode(element, "name"));
+        });
     }
-    return level;
 }
 
 Table makeTable(const IXMLDOMDocument& document, const Place& place)
 {
-    const auto elements = elementsAt(document, place);
-    Table      table{elements.size()};
-    for (const IXMLDOMNode& element : elements) {
-        if (const IXMLDOMNode name = attributeNode(element, "name")) {
-            table.add(name.get_text(), NodeMark{element});
+    Table table;
+    visitElements(document, place, [&](const IXMLDOMNode& element, const IXMLDOMNode& name) {
+        if (name) {
+            table.names.add(name.get_text());
+            table.elements.emplace_back(element);
         }
-    }
+    });
     return table;
 }
 
 ByPrefix makePrefixTable(const IXMLDOMDocument& document, const Place& place)
 {
-    std::vector<NodeMark>    marks;
-    std::vector<std::string> names;
-    for (const IXMLDOMNode& element : elementsAt(document, place)) {
-        const IXMLDOMNode name = attributeNode(element, "name");
-        marks.emplace_back(element);
-        names.push_back(name ? name.get_text() : std::string{});
-    }
-    return {std::move(marks), PrefixTable{std::move(names)}};
+    std::vector<NodeMark> elements;
+    TextList              names;
+    visitElements(document, place, [&](const IXMLDOMNode& element, const IXMLDOMNode& name) {
+        elements.emplace_back(element);
+        names.add(name ? name.get_text() : std::string{});
+    });
+    return {std::move(elements), PrefixTable{std::move(names)}};
 }
 
 Index& indexOf(const IXMLDOMDocument& document)
@@ -214,10 +171,11 @@ std::vector<IXMLDOMNode> find(const IXMLDOMNode& from, const Place& place, const
         return found;
     }
     const IXMLDOMDocument document{from.ref()};
-    tableOf(document, place).visit(name, [&](const NodeMark& node) {
-        found.push_back(document.nodeAt(node));
-        return found.size() < most;
-    });
+    const Table&          table = tableOf(document, place);
+    for (auto at = table.names.find(name); at != NameTable::kNone && found.size() < most;
+         at      = table.names.next(at)) {
+        found.push_back(document.nodeAt(table.elements[at]));
+    }
     return found;
 }
 

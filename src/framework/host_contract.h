@@ -1,11 +1,10 @@
 #pragma once
 
+#include "framework/control_contract.h"
+#include "framework/host_services.h"
 #include "platform/event.h"
-#include "platform/widget.h"
-#include "platform/xml_dom.h"
 
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
 
@@ -18,14 +17,8 @@
 /// user-interface thread, and every call is synchronous.
 namespace quill {
 
-using platform::IXMLDOMDocument;
-using platform::IXMLDOMNode;
-using platform::IXMLDOMNodeList;
-
 class AddressService;
-class Messenger;
 class ReportPrinter;
-class TestStore;
 
 /// Communication mode. The host may use further numbers; they enable editing.
 enum CommunicationMode : std::int32_t {
@@ -75,112 +68,6 @@ enum DialogPhase : std::int16_t {
 
 /// The one answer of `AskQuestion` that is a yes; any other is a no.
 constexpr std::int32_t kPositiveAnswer = 4;
-
-/// Texts in the user's language. Owned by the host. An answer that begins with "Err:" counts as no
-/// translation.
-class Translator {
-public:
-    virtual ~Translator() = default;
-    /// The current language, such as "English".
-    virtual std::string GetLanguage() = 0;
-    /// Text of a key.
-    virtual std::string Translate(const std::string& key) = 0;
-    /// Text of a "key#parameter" text; `delimiter` is "#".
-    virtual std::string TranslateDelimited(const std::string& text,
-                                           const std::string& delimiter) = 0;
-    /// Caption for a widget's `Tag`; takes a "ctr_" tag as it stands.
-    virtual std::string TranslateTag(const std::string& tag) = 0;
-};
-
-/// Units of measurement. Owned by the host. Works in single precision.
-class UnitConverter {
-public:
-    virtual ~UnitConverter() = default;
-    /// The value in the other unit; nothing if there is no way.
-    virtual std::optional<float> ConvertValue(float value, const std::string& fromUnit,
-                                              const std::string& toUnit) = 0;
-    /// The units of a quantity, one node each, with the attribute `name`.
-    virtual std::optional<IXMLDOMNodeList> GetUnitChoices(const std::string& quantity) = 0;
-    /// The unit that a system of units ("SI") uses, given the data of `GetUnitSystemData`.
-    virtual std::optional<std::string> GetUnitOfSystem(const IXMLDOMNode& data,
-                                                       const std::string& systemName) = 0;
-    /// The unit in which the user wants to see a quantity.
-    virtual std::optional<std::string> GetDisplayUnit(const std::string& name) = 0;
-    /// Stores the user's choice; false if there is no such quantity or unit.
-    virtual bool SetDisplayUnit(const std::string& quantity, const std::string& unit) = 0;
-    /// What `GetUnitOfSystem` takes first.
-    virtual std::optional<IXMLDOMNode> GetUnitSystemData(const std::string& quantity) = 0;
-    /// All quantities; the text of a node is the key.
-    virtual IXMLDOMNodeList GetQuantities() = 0;
-};
-
-/// An editor or a mask model that can be sent to the device.
-class IQornDataEditor {
-public:
-    virtual ~IQornDataEditor() = default;
-    /// The item to send, a small document of its own: element `item` with `name` and `unit` and one
-    /// child that carries the value. Without `force` nothing while the editor has no text or its
-    /// value is not correct.
-    virtual IXMLDOMDocument GetXmlItem(bool force) = 0;
-
-    /// Expires with the editor. Whoever keeps an editor beyond a call asks this first: a page may
-    /// go while its changes are still listed.
-    [[nodiscard]] std::weak_ptr<const void> lifetime() const { return mLifetime; }
-
-private:
-    std::shared_ptr<const void> mLifetime = std::make_shared<char>();
-};
-
-/// Implemented by every control that needs the host.
-class IQornComponent {
-public:
-    virtual ~IQornComponent() = default;
-    /// Stores the Messenger and subscribes to its events; nothing detaches. The host owns it and
-    /// keeps it until it has detached every control.
-    virtual void SetMessenger(Messenger* messenger) = 0;
-};
-
-/// Implemented by every control with visible text.
-class ILocalizable {
-public:
-    virtual ~ILocalizable() = default;
-    /// Sets all captions and texts.
-    virtual void Localize(Translator& translator) = 0;
-};
-
-/// Implemented by every view. The host owns the documents; a control may keep nodes of them.
-class IQornDataUser {
-public:
-    virtual ~IQornDataUser() = default;
-    /// A communication response with an error.
-    virtual void SetErrorData(const IXMLDOMNode& node) = 0;
-    /// A datafile that was imported: its values come up as unsaved edits.
-    virtual void SetImportData(const IXMLDOMNode& node) = 0;
-    /// The datafile. Editors keep their nodes in it and write edits through them.
-    virtual void SetOfflineData(const IXMLDOMNode& node) = 0;
-    /// A communication response.
-    virtual void SetOnlineData(const IXMLDOMNode& node) = 0;
-};
-
-/// Implemented by every view, a page of the host.
-class IQornView {
-public:
-    virtual ~IQornView() = default;
-    /// The child controls in form order.
-    virtual platform::WidgetList GetControls() = 0;
-    /// The stored Messenger, if any.
-    virtual Messenger* GetMessenger() = 0;
-    /// Name of the sub-page that is shown.
-    virtual std::string GetSelectedView() = 0;
-    /// Shows a sub-page.
-    virtual void SetSelectedView(const std::string& name) = 0;
-    /// Whether the view may be left; false keeps the user on it.
-    virtual bool LeaveSelectedView() = 0;
-    /// Puts the keyboard focus on the first enabled control.
-    virtual void RequestFocus() = 0;
-    /// The view lets go of its Messenger and its nodes.
-    virtual void PrepareToRelease() = 0;
-};
 
 /// The host's side of the contract. Owned by the host; usable from the moment it is handed out,
 /// as a control may call back from its `SetMessenger`. A key may carry a parameter behind "#"; a

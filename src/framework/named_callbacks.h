@@ -10,11 +10,10 @@ namespace quill {
 
 /// Implemented by a host's page that wants to hear from the controls on it by the name of a method:
 ///
-/// | Method | Arguments | Called |
-/// |---|---|---|
-/// | "QuillStatusChanged" | the combined status | by a status view on a page of the type
-/// "VwOnlineDiag" | | "QuillTranslateTexts" | the language | by the settings dialog | |
-/// "QuillInformUnitChanges" | none | by the settings dialog |
+/// - "QuillStatusChanged" with the combined status, by a status view on a page of the type
+///   "VwOnlineDiag"
+/// - "QuillTranslateTexts" with the language, by the settings dialog
+/// - "QuillInformUnitChanges" without arguments, by the settings dialog
 class NamedCallbacks {
 public:
     virtual ~NamedCallbacks() = default;

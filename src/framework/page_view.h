@@ -29,7 +29,7 @@ protected:
     [[nodiscard]] virtual Steps steps(const char* procedure);
     /// The same without a Messenger to rely on: "CLASS procedure - Error", number, ": " and
     /// description, to the debug output.
-    [[nodiscard]] Steps debugSteps(const char* procedure) const;
+    [[nodiscard]] virtual Steps debugSteps(const char* procedure) const;
     /// The host; failure 91 while there is no Messenger.
     [[nodiscard]] Messenger& host();
 

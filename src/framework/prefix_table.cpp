@@ -20,13 +20,14 @@ std::uint64_t headOf(std::string_view tail)
     return head;
 }
 
-std::size_t commonLength(const std::vector<std::string>& texts)
+std::size_t commonLength(const TextList& texts)
 {
-    if (texts.empty()) {
+    if (texts.size() == 0) {
         return 0;
     }
-    std::string_view common = texts.front();
-    for (const std::string& text : texts) {
+    std::string_view common = texts[0];
+    for (std::size_t place = 1; place < texts.size(); ++place) {
+        const std::string_view text = texts[place];
         const auto [end, other] =
             std::mismatch(common.begin(), common.end(), text.begin(), text.end());
         common = common.substr(0, static_cast<std::size_t>(end - common.begin()));
@@ -36,8 +37,7 @@ std::size_t commonLength(const std::vector<std::string>& texts)
 
 } // namespace
 
-PrefixTable::PrefixTable(std::vector<std::string> texts)
-    : mTexts(std::move(texts)), mCommon(commonLength(mTexts))
+PrefixTable::PrefixTable(TextList texts) : mTexts(std::move(texts)), mCommon(commonLength(mTexts))
 {
     const std::size_t count = mTexts.size();
     mSorted.resize(count);
@@ -59,16 +59,16 @@ PrefixTable::PrefixTable(std::vector<std::string> texts)
 
 std::string_view PrefixTable::tailOf(const Entry& entry) const
 {
-    return std::string_view{mTexts[entry.place]}.substr(mCommon);
+    return mTexts[entry.place].substr(mCommon);
 }
 
 std::optional<std::size_t> PrefixTable::first(std::string_view prefix) const
 {
-    if (mTexts.empty()) {
+    if (mTexts.size() == 0) {
         return std::nullopt;
     }
     const std::size_t shared = std::min(prefix.size(), mCommon);
-    if (mTexts.front().compare(0, shared, prefix.substr(0, shared)) != 0) {
+    if (mTexts[0].substr(0, shared) != prefix.substr(0, shared)) {
         return std::nullopt;
     }
     const std::string_view rest = prefix.substr(shared);

@@ -1,9 +1,10 @@
 #pragma once
 
+#include "framework/text_list.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <optional>
-#include <string>
 #include <string_view>
 #include <vector>
 
@@ -13,7 +14,7 @@ namespace quill {
 /// once in the time of a sort; a question costs the logarithm of the list.
 class PrefixTable {
 public:
-    explicit PrefixTable(std::vector<std::string> texts);
+    explicit PrefixTable(TextList texts);
 
     /// The place in the list, from 0, of the first text that begins with `prefix`, byte for byte;
     /// nothing if none does. Every text begins with an empty prefix.
@@ -32,9 +33,9 @@ private:
     [[nodiscard]] std::size_t   endOf(std::size_t begin, std::string_view tail) const;
     [[nodiscard]] std::uint32_t lowest(std::size_t begin, std::size_t end) const;
 
-    std::vector<std::string> mTexts;
-    std::size_t              mCommon = 0; ///< length of the beginning that all texts share
-    std::vector<Entry>       mSorted;     ///< in ascending order of the texts
+    TextList           mTexts;
+    std::size_t        mCommon = 0; ///< length of the beginning that all texts share
+    std::vector<Entry> mSorted;     ///< in ascending order of the texts
     /// A tree of lowest places: the leaves are those of `mSorted`, from the middle on; each node
     /// above holds the lower of its two.
     std::vector<std::uint32_t> mLowest;

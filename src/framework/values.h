@@ -48,14 +48,13 @@ namespace quill::values {
 
 /// To the nearest whole number, a tie to the even one.
 [[nodiscard]] double roundToEven(double number);
-
-/// `percent` (0 to 100) of a length, rounded by `roundToEven`; any length is allowed.
-[[nodiscard]] std::int32_t percentOf(std::int32_t length, int percent);
 /// The same as a 16-bit or 32-bit integer; outside the range, and for NaN, failure 6.
 [[nodiscard]] std::int16_t toInt16(double number);
 [[nodiscard]] std::int32_t toInt32(double number);
 /// Narrowed for a unit conversion; a number that is too large for single precision is failure 6.
 [[nodiscard]] float toSingle(double number);
+/// `percent` (0 to 100) of a length, rounded by `roundToEven`; any length is allowed.
+[[nodiscard]] std::int32_t percentOf(std::int32_t length, int percent);
 
 /// All occurrences replaced; an empty `what` replaces nothing.
 [[nodiscard]] std::string replaceAll(std::string text, const std::string& what,

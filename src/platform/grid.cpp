@@ -11,15 +11,10 @@ using What = WidgetChange::What;
 
 Grid::Grid(const Design& design) : Widget(design)
 {
-    start();
+    BackColor = kWindowBackground;
 }
 
 Grid::Grid(Widget& container, const Design& design) : Widget(container, design)
-{
-    start();
-}
-
-void Grid::start()
 {
     BackColor = kWindowBackground;
 }
@@ -67,9 +62,24 @@ void Grid::tellCell(int row, int col)
     tell({What::rowsChanged, nullptr, row - 1, row - 1, col - 1});
 }
 
-void Grid::tellRow(int row)
+template <class T>
+void Grid::setInCell(int row, int col, T Cell::*member, const T& value)
 {
-    tell({What::rowsChanged, nullptr, row - 1, row - 1});
+    T& present = at(row, col).*member;
+    if (present != value) {
+        present = value;
+        tellCell(row, col);
+    }
+}
+
+template <class T>
+void Grid::setInRow(int row, T Row::*member, T value)
+{
+    T& present = at(row).*member;
+    if (present != value) {
+        present = std::move(value);
+        tell({What::rowsChanged, nullptr, row - 1, row - 1});
+    }
 }
 
 // --- Structure -----------------------------------------------------------------------------------
@@ -97,14 +107,16 @@ Grid::Column& Grid::columnAt(int col)
 
 Grid::Cell& Grid::at(int row, int col)
 {
-    Row& found = at(row);
+    (void)at(row);
     (void)columnAt(col);
-    return found.cells[static_cast<std::size_t>(col) - 1];
+    return mCells[(static_cast<std::size_t>(row) - 1) * mColumns.size() +
+                  static_cast<std::size_t>(col) - 1];
 }
 
 void Grid::Clear()
 {
     mRows.clear();
+    mCells.clear();
     mColumns.clear();
     mLists.clear();
     mSelected.clear();
@@ -115,10 +127,17 @@ void Grid::Clear()
 
 int Grid::AddCol(Column column)
 {
-    mColumns.push_back(std::move(column));
-    for (Row& row : mRows) {
-        row.cells.emplace_back();
+    std::vector<Cell> wider;
+    wider.reserve(mCells.size() + mRows.size());
+    auto next = mCells.begin();
+    for (std::size_t row = 0; row < mRows.size(); ++row) {
+        for (std::size_t col = 0; col < mColumns.size(); ++col) {
+            wider.push_back(std::move(*next++));
+        }
+        wider.emplace_back();
     }
+    mCells = std::move(wider);
+    mColumns.push_back(std::move(column));
     tell({What::reset});
     return ColCount();
 }
@@ -175,7 +194,6 @@ int Grid::AddRow(int parent)
     }
     Row fresh;
     fresh.parent = parent;
-    fresh.cells.resize(mColumns.size());
     if (place <= RowCount()) {
         const auto moveOn = [place](int& row) { row += row >= place ? 1 : 0; };
         for (Row& row : mRows) {
@@ -186,6 +204,7 @@ int Grid::AddRow(int parent)
         moveOn(mEditRow);
     }
     mRows.insert(mRows.begin() + (place - 1), std::move(fresh));
+    mCells.insert(mCells.begin() + (place - 1) * ColCount(), mColumns.size(), Cell{});
     tell({What::rowsInserted, nullptr, place - 1, place - 1});
     return place;
 }
@@ -199,14 +218,13 @@ void Grid::setRowCount(int count)
     if (count == before) {
         return;
     }
-    Row fresh;
-    fresh.cells.resize(mColumns.size());
     for (int row = before; row > count; --row) {
         if (const int parent = at(row).parent; parent != 0) {
             at(parent).children -= 1;
         }
     }
-    mRows.resize(static_cast<std::size_t>(count), fresh);
+    mRows.resize(static_cast<std::size_t>(count));
+    mCells.resize(mRows.size() * mColumns.size());
     if (count > before) {
         tell({What::rowsInserted, nullptr, before, count - 1});
         return;
@@ -238,10 +256,7 @@ bool Grid::RowVisible(int row) const
 
 void Grid::setRowVisible(int row, bool visible)
 {
-    if (at(row).visible != visible) {
-        at(row).visible = visible;
-        tellRow(row);
-    }
+    setInRow(row, &Row::visible, visible);
 }
 
 bool Grid::RowExpanded(int row) const
@@ -251,10 +266,7 @@ bool Grid::RowExpanded(int row) const
 
 void Grid::setRowExpanded(int row, bool expanded)
 {
-    if (at(row).expanded != expanded) {
-        at(row).expanded = expanded;
-        tellRow(row);
-    }
+    setInRow(row, &Row::expanded, expanded);
 }
 
 const std::string& Grid::RowDescription(int row) const
@@ -264,10 +276,7 @@ const std::string& Grid::RowDescription(int row) const
 
 void Grid::setRowDescription(int row, std::string text)
 {
-    if (at(row).description != text) {
-        at(row).description = std::move(text);
-        tellRow(row);
-    }
+    setInRow(row, &Row::description, std::move(text));
 }
 
 // --- Cells ---------------------------------------------------------------------------------------
@@ -279,47 +288,27 @@ const Grid::Cell& Grid::cell(int row, int col) const
 
 void Grid::setCellText(int row, int col, const std::string& text)
 {
-    Cell& cell = at(row, col);
-    if (cell.Text != text) {
-        cell.Text = text;
-        tellCell(row, col);
-    }
+    setInCell(row, col, &Cell::Text, text);
 }
 
 void Grid::setCellValue(int row, int col, std::optional<std::int32_t> value)
 {
-    Cell& cell = at(row, col);
-    if (cell.Value != value) {
-        cell.Value = value;
-        tellCell(row, col);
-    }
+    setInCell(row, col, &Cell::Value, value);
 }
 
 void Grid::setCellBackColor(int row, int col, Color color)
 {
-    Cell& cell = at(row, col);
-    if (cell.BackColor != color) {
-        cell.BackColor = color;
-        tellCell(row, col);
-    }
+    setInCell(row, col, &Cell::BackColor, color);
 }
 
 void Grid::setCellEditable(int row, int col, bool editable)
 {
-    Cell& cell = at(row, col);
-    if (cell.Editable != editable) {
-        cell.Editable = editable;
-        tellCell(row, col);
-    }
+    setInCell(row, col, &Cell::Editable, editable);
 }
 
 void Grid::setCellKind(int row, int col, CellKind kind)
 {
-    Cell& cell = at(row, col);
-    if (cell.kind != kind) {
-        cell.kind = kind;
-        tellCell(row, col);
-    }
+    setInCell(row, col, &Cell::kind, kind);
 }
 
 void Grid::setImageList(const ImageList* images)
@@ -330,7 +319,7 @@ void Grid::setImageList(const ImageList* images)
 
 void Grid::setCellIcon(int row, int col, const std::string& key)
 {
-    Cell&        cell = at(row, col);
+    (void)at(row, col);
     std::int16_t icon = -1;
     if (!key.empty()) {
         if (mImages == nullptr) {
@@ -338,10 +327,7 @@ void Grid::setCellIcon(int row, int col, const std::string& key)
         }
         icon = static_cast<std::int16_t>(mImages->index(key));
     }
-    if (cell.icon != icon) {
-        cell.icon = icon;
-        tellCell(row, col);
-    }
+    setInCell(row, col, &Cell::icon, icon);
 }
 
 std::string Grid::CellIcon(int row, int col) const
@@ -351,66 +337,45 @@ std::string Grid::CellIcon(int row, int col) const
                                                                 : std::string{};
 }
 
-std::size_t Grid::listPlace(const std::string& key) const
-{
-    const auto found =
-        std::find_if(mLists.begin(), mLists.end(), [&](const auto& l) { return l.first == key; });
-    return static_cast<std::size_t>(found - mLists.begin());
-}
-
 bool Grid::hasCombo(const std::string& key) const
 {
-    return listPlace(key) < mLists.size();
+    return mLists.find(key) < mLists.size();
 }
 
 void Grid::AddCombo(const std::string& key)
 {
-    if (hasCombo(key)) {
-        throw Failure(kInvalidCall, "there is a drop-down list of the key '" + key + "'");
-    }
-    mLists.emplace_back(key, std::vector<Entry>{});
+    mLists.add(key);
 }
 
 void Grid::ClearCombo(const std::string& key)
 {
     if (!hasCombo(key)) {
-        AddCombo(key);
+        mLists.add(key);
     }
-    mLists[listPlace(key)].second.clear();
+    mLists.at(mLists.place(key)).clear();
 }
 
 void Grid::AddComboItem(const std::string& key, Entry entry)
 {
-    const_cast<std::vector<Entry>&>(Combo(key)).push_back(std::move(entry));
+    mLists.at(mLists.place(key)).push_back(std::move(entry));
 }
 
 const std::vector<Grid::Entry>& Grid::Combo(const std::string& key) const
 {
-    const std::size_t place = listPlace(key);
-    if (place == mLists.size()) {
-        throw Failure(kInvalidCall, "no drop-down list of the key '" + key + "'");
-    }
-    return mLists[place].second;
+    return mLists.at(mLists.place(key));
 }
 
 void Grid::setCellList(int row, int col, const std::string& key)
 {
-    Cell&        cell = at(row, col);
-    std::int16_t list = -1;
-    if (!key.empty()) {
-        (void)Combo(key);
-        list = static_cast<std::int16_t>(listPlace(key));
-    }
-    if (cell.list != list) {
-        cell.list = list;
-        tellCell(row, col);
-    }
+    (void)at(row, col);
+    const auto list = key.empty() ? std::int16_t{-1} : static_cast<std::int16_t>(mLists.place(key));
+    setInCell(row, col, &Cell::list, list);
 }
 
 std::string Grid::CellList(int row, int col) const
 {
     const Cell& found = cell(row, col);
-    return found.list < 0 ? std::string{} : mLists[static_cast<std::size_t>(found.list)].first;
+    return found.list < 0 ? std::string{} : mLists.key(static_cast<std::size_t>(found.list));
 }
 
 // --- Selection -----------------------------------------------------------------------------------

@@ -1,9 +1,12 @@
 #pragma once
 
+#include "platform/grid_parts.h"
 #include "platform/widget.h"
 
-#include <map>
+#include <cstdint>
 #include <optional>
+#include <string>
+#include <vector>
 
 namespace quill::platform {
 
@@ -14,34 +17,11 @@ class ImageList;
 /// renderer needs is told by ranges, so 5,000 rows cost one change and one cell costs one cell.
 class Grid : public Widget {
 public:
-    enum class CellKind : std::uint8_t { text, check };
-
-    struct Column {
-        std::string  Key     = {};
-        std::string  Text    = {}; ///< of the header
-        std::int32_t Width   = 0;  ///< pixels at 96 dpi
-        bool         Visible = true;
-    };
-    struct Cell {
-        std::string                 Text;
-        std::optional<std::int32_t> Value; ///< of a check cell 0 or 1, of a drop-down its entry's
-        Color                       BackColor = kWindowBackground;
-        std::int16_t                icon      = -1; ///< place in the image list, -1 for none
-        std::int16_t                list     = -1; ///< place among the drop-down lists, -1 for none
-        CellKind                    kind     = CellKind::text;
-        bool                        Editable = true;
-    };
-    /// An entry of a drop-down list.
-    struct Entry {
-        std::string  Text;
-        std::int32_t Value = 0;
-    };
-    /// The user is about to edit a cell; a handler that sets `cancel` keeps him from it.
-    struct EditRequest {
-        int  row    = 0;
-        int  col    = 0;
-        bool cancel = false;
-    };
+    using Column      = GridColumn;
+    using Cell        = GridCell;
+    using CellKind    = GridCellKind;
+    using Entry       = GridEntry;
+    using EditRequest = GridEditRequest;
 
     explicit Grid(const Design& design = {});
     Grid(Widget& container, const Design& design = {});
@@ -180,41 +160,41 @@ public:
 
 private:
     struct Row {
-        std::vector<Cell> cells;
-        std::string       description;
-        int               parent   = 0;
-        int               children = 0;
-        bool              visible  = true;
-        bool              expanded = true;
+        std::string description;
+        int         parent   = 0;
+        int         children = 0;
+        bool        visible  = true;
+        bool        expanded = true;
     };
 
-    void                      start();
-    [[nodiscard]] Row&        at(int row);
-    [[nodiscard]] const Row&  at(int row) const;
-    [[nodiscard]] Cell&       at(int row, int col);
-    [[nodiscard]] Column&     columnAt(int col);
-    [[nodiscard]] std::size_t listPlace(const std::string& key) const;
-    [[nodiscard]] bool        isReachable(int row, int col) const;
-    [[nodiscard]] bool        isSeen(int row) const;
-    [[nodiscard]] bool        canEdit(int row, int col) const;
-    [[nodiscard]] bool        isUnder(int row, int above) const;
-    void                      commit(int row, int col, Cell fresh);
-    void                      tell(const WidgetChange& change);
-    void                      tellCell(int row, int col);
-    void                      tellRow(int row);
+    [[nodiscard]] Row&       at(int row);
+    [[nodiscard]] const Row& at(int row) const;
+    [[nodiscard]] Cell&      at(int row, int col);
+    [[nodiscard]] Column&    columnAt(int col);
+    [[nodiscard]] bool       isReachable(int row, int col) const;
+    [[nodiscard]] bool       canEdit(int row, int col) const;
+    void                     commit(int row, int col, Cell fresh);
+    void                     tell(const WidgetChange& change);
+    /// Sets one thing in a cell or a row and tells it if it is another than before.
+    template <class T>
+    void setInCell(int row, int col, T Cell::*member, const T& value);
+    template <class T>
+    void setInRow(int row, T Row::*member, T value);
+    void tellCell(int row, int col);
 
-    std::vector<Column>                                     mColumns;
-    std::vector<Row>                                        mRows;
-    std::vector<std::pair<std::string, std::vector<Entry>>> mLists;
-    const ImageList*                                        mImages = nullptr;
-    std::vector<int>                                        mSelected;
-    std::string                                             mEditText;
-    int                                                     mCurRow   = 0;
-    int                                                     mCurCol   = 0;
-    int                                                     mEditRow  = 0;
-    int                                                     mEditCol  = 0;
-    bool                                                    mTyped    = false;
-    bool                                                    mHeldBack = false;
+    std::vector<Column> mColumns;
+    std::vector<Row>    mRows;
+    std::vector<Cell>   mCells; ///< row by row, so that a walk over the rows is one over the memory
+    GridLists           mLists;
+    const ImageList*    mImages = nullptr;
+    std::vector<int>    mSelected;
+    std::string         mEditText;
+    int                 mCurRow   = 0;
+    int                 mCurCol   = 0;
+    int                 mEditRow  = 0;
+    int                 mEditCol  = 0;
+    bool                mTyped    = false;
+    bool                mHeldBack = false;
 };
 
 } // namespace quill::platform

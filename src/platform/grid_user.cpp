@@ -5,23 +5,50 @@
 
 namespace quill::platform {
 
-bool Grid::isReachable(int row, int col) const
-{
-    return acceptsUser() && row >= 1 && row <= RowCount() && col >= 1 && col <= ColCount() &&
-           column(col).Visible && isSeen(row);
-}
+namespace {
 
-bool Grid::isSeen(int row) const
+/// Whether a row is neither hidden nor folded in.
+bool isSeen(const Grid& grid, int row)
 {
-    if (!RowVisible(row)) {
+    if (!grid.RowVisible(row)) {
         return false;
     }
-    for (int above = RowParent(row); above != 0; above = RowParent(above)) {
-        if (!RowVisible(above) || !RowExpanded(above)) {
+    for (int above = grid.RowParent(row); above != 0; above = grid.RowParent(above)) {
+        if (!grid.RowVisible(above) || !grid.RowExpanded(above)) {
             return false;
         }
     }
     return true;
+}
+
+/// Whether a row is `above` or one of its descendants.
+bool isUnder(const Grid& grid, int row, int above)
+{
+    while (row > above) {
+        row = grid.RowParent(row);
+    }
+    return row == above;
+}
+
+/// Gives a cell the entry that is meant; false where there is none.
+template <class IsMeant>
+bool choose(const GridLists::Entries& entries, GridCell& cell, IsMeant isMeant)
+{
+    const auto entry = std::find_if(entries.begin(), entries.end(), isMeant);
+    if (entry == entries.end()) {
+        return false;
+    }
+    cell.Text  = entry->Text;
+    cell.Value = entry->Value;
+    return true;
+}
+
+} // namespace
+
+bool Grid::isReachable(int row, int col) const
+{
+    return acceptsUser() && row >= 1 && row <= RowCount() && col >= 1 && col <= ColCount() &&
+           column(col).Visible && isSeen(*this, row);
 }
 
 UserDoor Grid::moveTo(int row, int col)
@@ -101,20 +128,13 @@ UserDoor Grid::select(const std::vector<int>& rows)
     return UserDoor::done;
 }
 
-bool Grid::isUnder(int row, int above) const
-{
-    while (row > above) {
-        row = RowParent(row);
-    }
-    return row == above;
-}
-
 UserDoor Grid::expand(int row, bool expanded)
 {
-    if (!acceptsUser() || row < 1 || row > RowCount() || !RowHasChildren(row) || !isSeen(row)) {
+    if (!acceptsUser() || row < 1 || row > RowCount() || !RowHasChildren(row) ||
+        !isSeen(*this, row)) {
         return UserDoor::refused;
     }
-    if (!expanded && mCurRow > row && isUnder(mCurRow, row)) {
+    if (!expanded && mCurRow > row && isUnder(*this, mCurRow, row)) {
         (void)moveTo(row, mCurCol);
         if (row > RowCount()) {
             return UserDoor::refused;
@@ -208,14 +228,10 @@ UserDoor Grid::commitEdit()
         }
         fresh.Value = text == "1" ? 1 : 0;
     } else if (fresh.list >= 0) {
-        const auto& entries = mLists[static_cast<std::size_t>(fresh.list)].second;
-        const auto  entry   = std::find_if(entries.begin(), entries.end(),
-                                           [&](const Entry& e) { return e.Text == text; });
-        if (entry == entries.end()) {
+        const auto& entries = mLists.at(static_cast<std::size_t>(fresh.list));
+        if (!choose(entries, fresh, [&](const Entry& e) { return e.Text == text; })) {
             return UserDoor::refused;
         }
-        fresh.Text  = entry->Text;
-        fresh.Value = entry->Value;
     } else {
         fresh.Text = text;
     }
@@ -241,14 +257,10 @@ UserDoor Grid::edit(int row, int col, std::int32_t value)
         }
         fresh.Value = value;
     } else if (fresh.list >= 0) {
-        const auto& entries = mLists[static_cast<std::size_t>(fresh.list)].second;
-        const auto  entry   = std::find_if(entries.begin(), entries.end(),
-                                           [&](const Entry& e) { return e.Value == value; });
-        if (entry == entries.end()) {
+        const auto& entries = mLists.at(static_cast<std::size_t>(fresh.list));
+        if (!choose(entries, fresh, [&](const Entry& e) { return e.Value == value; })) {
             return UserDoor::refused;
         }
-        fresh.Text  = entry->Text;
-        fresh.Value = value;
     } else {
         fresh.Text = std::to_string(value);
     }

@@ -15,6 +15,7 @@ public:
     }
 
     Property<std::string> Caption;
+    Property<bool>        Bold{*this, false}; ///< of a title
     Event<>               Click;
 
     [[nodiscard]] const char* TypeName() const override { return "Label"; }
@@ -22,6 +23,7 @@ public:
     {
         Widget::visit(visitor);
         visitor.visit("Caption", Caption);
+        visitor.visit("Bold", Bold);
     }
 
     /// User's door.

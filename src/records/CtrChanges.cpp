@@ -77,6 +77,7 @@ void CtrChanges::Initialize()
     const Steps step{[](int, const std::string&) {
         platform::Toolkit::current().debugOutput("CtrChanges UserControl_Initialize - Error");
     }};
+    lblTitle.Bold = true;
     step([&] {
         lstChanges.CheckBoxes = true;
         lstChanges.setColumnHeaders({{lblParameter.Caption, "", lblParameter.Width},

@@ -23,9 +23,7 @@ platform::Design withSize(platform::Design design)
 std::string inOperationTimeFormat(const std::string& time)
 {
     const std::string local = values::replaceAll(time, ".", values::decimalSeparator());
-    return values::isNumeric(local)
-               ? values::formatNumber(modTools::ParseNumber(time), eventLog::kOperationTimeFormat)
-               : time;
+    return values::isNumeric(local) ? eventLog::operationTimeText(time) : time;
 }
 
 /// A host without a text for a key says so in the answer; the key itself then tells the user more.
@@ -115,7 +113,8 @@ void CtrEventLog::Localize(Translator& translator)
         });
     }
     step([&] { cmdNext.Caption = textOrKey(translator, cmdNext.Tag); });
-    arrange();
+    // The columns stay as wide as the user or a read has made them.
+    placeWidgets();
 }
 
 void CtrEventLog::RequestFocus()

@@ -117,11 +117,6 @@ protected:
 private:
     /// Pieces of one event: event, class, time.
     using Pieces = std::array<IXMLDOMNode, 3>;
-    /// What became of the events in a message.
-    struct Listing {
-        bool                           newList = false;
-        std::optional<eventLog::Texts> last; ///< the last index that had content
-    };
 
     void UserControl_Initialize();
     void cmdNext_Click();
@@ -129,16 +124,23 @@ private:
     void mMessenger_ViewSetCommunicationMode(std::int32_t mode);
     void mMessenger_ViewReceiveValue(const std::string& name, const std::string& value);
 
+    /// The unit of the total operation time: attribute `unit` of its item or parameter.
+    void showUnit(const Steps& step, const IXMLDOMNode& node);
+    /// A list that was filled from its first event on is shown from its top.
+    void showFirstRow(const Steps& step);
+
     // Messages from the device.
     bool takeOperationTime(const Steps& step, const IXMLDOMNode& document);
     void takeEvents(const Steps& step, const IXMLDOMNode& document, const IXMLDOMNode& response,
                     const std::string& name);
-    [[nodiscard]] Listing listEvents(const Steps& step, const IXMLDOMNode& document);
-    int                   beginNewList();
-    int                   continueList(const Steps& step);
-    void                  storePieces(const Steps& step, int index, const Pieces& items);
-    void                  drawBreak(const Steps& step, int index, int indexShift);
-    void                  finishRead(const Steps& step, const std::string& name, bool newList);
+    /// Answers the last event that had content.
+    std::optional<eventLog::Texts> listEvents(const Steps& step, const IXMLDOMNode& document,
+                                              bool newList);
+    int                            beginNewList();
+    int                            continueList(const Steps& step);
+    void                           storePieces(const Steps& step, int index, const Pieces& items);
+    void                           drawBreak(const Steps& step, int index, int indexShift);
+    void finishRead(const Steps& step, const std::string& name, bool newList);
     void testEndOfLog(const Steps& step, const std::optional<eventLog::Texts>& last);
 
     // The datafile.
@@ -158,6 +160,7 @@ private:
     [[nodiscard]] std::string stampSource(int row, int place, int& obsolete);
     void                      rowsChanged(const platform::WidgetChange& change);
 
+    void placeWidgets(); ///< all but the columns of the list
     void fitColumns();
     void ResizeEvents();
     void ResizeTotalOperationTime();

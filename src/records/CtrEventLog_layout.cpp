@@ -2,6 +2,7 @@
 #include "records/CtrEventLog.h"
 
 #include "framework/caption_width.h"
+#include "framework/documents.h"
 #include "framework/steps.h"
 #include "framework/values.h"
 #include "platform/toolkit.h"
@@ -33,6 +34,12 @@ std::int32_t labelWidth(std::int32_t text)
 
 void CtrEventLog::arrange()
 {
+    placeWidgets();
+    fitColumns();
+}
+
+void CtrEventLog::placeWidgets()
+{
     const std::int32_t width  = std::max(Width.get(), kSmallestWidth);
     const std::int32_t height = std::max(Height.get(), kSmallestHeight);
     std::int32_t       top    = kMargin;
@@ -62,7 +69,6 @@ void CtrEventLog::arrange()
     lsvEventLog.Top    = top;
     lsvEventLog.Width  = width - 2 * kMargin;
     lsvEventLog.Height = cmdNext.Top - kGap - top;
-    fitColumns();
 
     for (CtrFocusTransfer* stop : {&CtrFocusTransfer1, &CtrFocusTransfer2}) {
         stop->Left = width - kMargin;
@@ -119,6 +125,19 @@ void CtrEventLog::ResizeTotalOperationTime()
             left += label->Width + kGap;
         }
     });
+}
+
+void CtrEventLog::showUnit(const Steps& step, const IXMLDOMNode& node)
+{
+    lblOperationTime[1].Caption = step.text([&] { return documents::attributeText(node, "unit"); });
+    ResizeTotalOperationTime();
+}
+
+void CtrEventLog::showFirstRow(const Steps& step)
+{
+    if (lsvEventLog.Count() > 0) {
+        step([&] { lsvEventLog.EnsureVisible(1); });
+    }
 }
 
 // --- The keyboard -----------------------------------------------------------------------------

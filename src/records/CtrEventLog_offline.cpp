@@ -13,8 +13,6 @@ using eventLog::Texts;
 
 namespace {
 
-constexpr std::array<const char*, 3> kPieces{"eventLogEvent", "eventLogClass", "eventLogTime"};
-
 /// When a group was read last, on screen; a group that never was has an empty one.
 std::string localDate(const std::string& lastUpdate)
 {
@@ -68,17 +66,13 @@ void CtrEventLog::showStoredOperationTime(const Steps& step, const IXMLDOMNode& 
     if (!parameter) {
         return;
     }
-    lblOperationTime[1].Caption =
-        step.text([&] { return documents::attributeText(parameter, "unit"); });
+    showUnit(step, parameter);
     const std::string value =
         step.text([&] { return documents::attributeText(parameter, "value"); });
     if (!eventLog::isKnown(value)) {
         return;
     }
-    step([&] {
-        lblOperationTime[0].Caption =
-            values::formatNumber(modTools::ParseNumber(value), eventLog::kOperationTimeFormat);
-    });
+    step([&] { lblOperationTime[0].Caption = eventLog::operationTimeText(value); });
     const std::string lastUpdate = step.text([&] {
         const auto listing = datafile.selectSingleNode(
             "./data:dtm/data:requestGroups/data:requestGroup/data:includedParam[@name=\"" +
@@ -112,7 +106,7 @@ bool CtrEventLog::listStoredEvents(const Steps& step, const IXMLDOMNode& datafil
         std::array<std::string, 3> raw;
         for (std::size_t piece = 0; piece < raw.size(); ++piece) {
             const auto parameter = step.value(IXMLDOMNode{}, [&] {
-                return documents::findParameter(datafile, kPieces[piece] + suffix);
+                return documents::findParameter(datafile, eventLog::kPieces[piece].first + suffix);
             });
             if (!parameter) {
                 continue;
@@ -155,9 +149,7 @@ void CtrEventLog::finishStoredList(const Steps& step, const IXMLDOMNode& datafil
         step([&] { host().SetParameterState(eventLog::kGroup, "edited"); });
     }
     ResizeEvents();
-    if (lsvEventLog.Count() > 0) {
-        step([&] { lsvEventLog.EnsureVisible(1); });
-    }
+    showFirstRow(step);
     mstrExternalResetText = step.text([&] { return translated(eventLog::kExternalReset); });
 }
 

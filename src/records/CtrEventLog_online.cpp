@@ -2,7 +2,6 @@
 #include "records/CtrEventLog.h"
 
 #include "framework/documents.h"
-#include "framework/modTools.h"
 #include "framework/modView.h"
 #include "framework/values.h"
 #include "platform/toolkit.h"
@@ -15,17 +14,9 @@ namespace {
 
 constexpr const char* kItems = "comm:dtm/comm:communicationResponse/comm:item";
 
-/// The names of an event's pieces on the first page and on those behind it.
-struct PieceName {
-    const char* first;
-    const char* next;
-};
-constexpr std::array<PieceName, 3> kPieces{{{"eventLogEvent", "eventLogNextEvent"},
-                                            {"eventLogClass", "eventLogNextClass"},
-                                            {"eventLogTime", "eventLogNextTime"}}};
-
 /// The first of the items with either name.
-IXMLDOMNode findPiece(const IXMLDOMNode& document, const PieceName& name, const std::string& suffix)
+IXMLDOMNode findPiece(const IXMLDOMNode& document, const eventLog::PieceName& name,
+                      const std::string& suffix)
 {
     const auto first = documents::findItem(document, name.first + suffix);
     const auto next  = documents::findItem(document, name.next + suffix);
@@ -77,17 +68,14 @@ bool CtrEventLog::takeOperationTime(const Steps& step, const IXMLDOMNode& docume
     if (!item) {
         return false;
     }
-    lblOperationTime[1].Caption = step.text([&] { return documents::attributeText(item, "unit"); });
-    const std::string value     = step.text([&] { return textOf(item.get_firstChild()); });
+    showUnit(step, item);
+    const std::string value = step.text([&] { return textOf(item.get_firstChild()); });
     if (value.empty()) {
         return true;
     }
     const std::string date      = step.text([] { return presentDate(); });
     lblOperationTime[2].Caption = date;
-    step([&] {
-        lblOperationTime[0].Caption =
-            values::formatNumber(modTools::ParseNumber(value), eventLog::kOperationTimeFormat);
-    });
+    step([&] { lblOperationTime[0].Caption = eventLog::operationTimeText(value); });
     ResizeTotalOperationTime();
     AddStamps(value, date);
     return true;
@@ -101,11 +89,16 @@ void CtrEventLog::takeEvents(const Steps& step, const IXMLDOMNode& document,
     ++mPaging.mlngMessagesRead;
     // Behind a failed part the rows of a read would stand in the wrong places: the rest of it is
     // counted but not listed.
-    const Listing listing = mPaging.mblnReadOk ? listEvents(step, document) : Listing{};
-    if (step.text([&] { return documents::attributeText(response, "isFinal"); }) == "1") {
-        finishRead(step, name, listing.newList);
+    const bool           isListed = mPaging.mblnReadOk;
+    const bool           newList  = isListed && !mPaging.mblnIsMoreEventsClicked;
+    std::optional<Texts> last;
+    if (isListed) {
+        last = listEvents(step, document, newList);
     }
-    testEndOfLog(step, listing.last);
+    if (step.text([&] { return documents::attributeText(response, "isFinal"); }) == "1") {
+        finishRead(step, name, newList);
+    }
+    testEndOfLog(step, last);
 }
 
 int CtrEventLog::beginNewList()
@@ -131,12 +124,12 @@ int CtrEventLog::continueList(const Steps& step)
     return mPaging.nextIndexShift(lsvEventLog.Count());
 }
 
-CtrEventLog::Listing CtrEventLog::listEvents(const Steps& step, const IXMLDOMNode& document)
+std::optional<Texts> CtrEventLog::listEvents(const Steps& step, const IXMLDOMNode& document,
+                                             bool newList)
 {
-    Listing listing;
-    listing.newList      = !mPaging.mblnIsMoreEventsClicked;
-    const int indexShift = listing.newList ? beginNewList() : continueList(step);
-    const int lastIndex  = mPaging.lastIndex(listing.newList);
+    std::optional<Texts> last;
+    const int            indexShift = newList ? beginNewList() : continueList(step);
+    const int            lastIndex  = mPaging.lastIndex(newList);
     log(step, kLogFlow, "indexShift = " + std::to_string(indexShift));
     if (mPaging.partsFillTheSameRows()) {
         mPaging.miResetEvents = 0;
@@ -149,17 +142,17 @@ CtrEventLog::Listing CtrEventLog::listEvents(const Steps& step, const IXMLDOMNod
         Pieces                     items;
         std::array<std::string, 3> raw;
         for (std::size_t piece = 0; piece < items.size(); ++piece) {
-            step([&] { items[piece] = findPiece(document, kPieces[piece], suffix); });
+            step([&] { items[piece] = findPiece(document, eventLog::kPieces[piece], suffix); });
             raw[piece] = step.text([&] { return textOf(items[piece]); });
         }
         const Texts texts{translation(raw[0]), translation(raw[1]), raw[2]};
-        if (listing.newList) {
+        if (newList) {
             storePieces(step, index, items);
         }
         if (texts.isEmpty()) {
             continue;
         }
-        listing.last = texts;
+        last = texts;
         log(step, kLogFlow,
             "Online Listing: indexShift " + std::to_string(indexShift) + " + index " +
                 std::to_string(index) + " + reset events" + std::to_string(mPaging.miResetEvents) +
@@ -170,7 +163,7 @@ CtrEventLog::Listing CtrEventLog::listEvents(const Steps& step, const IXMLDOMNod
             drawBreak(step, index, indexShift);
         }
     }
-    return listing;
+    return last;
 }
 
 void CtrEventLog::storePieces(const Steps& step, int index, const Pieces& items)
@@ -222,9 +215,7 @@ void CtrEventLog::finishRead(const Steps& step, const std::string& name, bool ne
     if (!newList) {
         return;
     }
-    if (lsvEventLog.Count() > 0) {
-        step([&] { lsvEventLog.EnsureVisible(1); });
-    }
+    showFirstRow(step);
     if (!mPaging.mstrOperationTimeRequest.empty()) {
         step([&] {
             (void)host().ExecuteCommunicationRequest(mPaging.mstrOperationTimeRequest, "reading", 2,

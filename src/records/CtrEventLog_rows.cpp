@@ -69,8 +69,7 @@ void CtrEventLog::AddEventLogEvent(int& row, const eventLog::Texts& texts, const
             }
         });
         if (!texts.time.empty()) {
-            const std::string time =
-                values::formatNumber(modTools::ParseNumber(texts.time), eventLog::kEventTimeFormat);
+            const std::string time = eventLog::eventTimeText(texts.time);
             const std::string date = Stamp(texts.time, row);
             lsvEventLog.edit(number, [&](ListItem& item) {
                 eventLog::setColumn(item, eventLog::kTime, time);

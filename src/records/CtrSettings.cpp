@@ -51,6 +51,13 @@ void lineUp(ButtonRow row, std::int32_t right, std::int32_t top)
     }
 }
 
+/// A row must say which one it is, in whatever words there are.
+std::string textOf(Translator& translator, const std::string& key)
+{
+    const std::string text = translator.Translate(key);
+    return modTools::IsNotErrorText(text) ? text : key;
+}
+
 platform::Design withSize(platform::Design design)
 {
     if (design.Width == 0 && design.Height == 0) {
@@ -79,6 +86,7 @@ void CtrSettings::UserControl_Initialize()
         platform::Toolkit::current().debugOutput("CtrSettings UserControl_Initialize - Error" +
                                                  std::to_string(number) + ": " + description);
     }};
+    lblTitle.Bold = true;
     step([&] { setUpGrids(); });
     step([&] {
         ctrTBLaunchedPanel.ZPosition = static_cast<std::int32_t>(Widgets().size());
@@ -86,8 +94,10 @@ void CtrSettings::UserControl_Initialize()
         arrange();
     });
     step([&] {
+        // The panel gives it to them for their other states when the dialog comes up.
+        ctrTBLaunchedPanel.imlPanel.Add("gradient");
         for (platform::CommandButton* button : {&cmdSI, &cmdUS, &cmdOK, &cmdCancel, &cmdApply}) {
-            button->Picture = "gradient";
+            button->Picture = ctrTBLaunchedPanel.imlPanel.first();
         }
     });
     setModified(false);
@@ -199,9 +209,15 @@ void CtrSettings::localizeWidget(const Steps& step, platform::Widget& widget,
                                  Translator& translator)
 {
     const auto setCaption = [&](platform::Property<std::string>& caption) {
-        if (!widget.Tag.get().empty()) {
-            step([&] { caption = translator.TranslateTag(widget.Tag); });
+        if (widget.Tag.get().empty()) {
+            return;
         }
+        step([&] {
+            const std::string text = translator.TranslateTag(widget.Tag);
+            if (modTools::IsNotErrorText(text)) {
+                caption = text;
+            }
+        });
     };
     if (&widget == &lblSelectUnits) {
         // The one label that the form gives no tag.
@@ -229,7 +245,7 @@ void CtrSettings::localizeWidget(const Steps& step, platform::Widget& widget,
 void CtrSettings::localizeUnits(const Steps& step, Translator& translator)
 {
     for (int row = 1; row <= scgUnits.RowCount(); ++row) {
-        step([&] { scgUnits.setCellText(row, kQuantity, translator.Translate(keyOf(row))); });
+        step([&] { scgUnits.setCellText(row, kQuantity, textOf(translator, keyOf(row))); });
     }
 }
 
@@ -237,7 +253,7 @@ void CtrSettings::fillClassifications(const Steps& step, Translator& translator)
 {
     // The host's number is the row: a text that is missing leaves its row empty.
     const auto add = [&](const char* key, StatusClassification classification) {
-        const std::string text = step.text([&] { return translator.Translate(key); });
+        const std::string text = step.text([&] { return textOf(translator, key); });
         cboStatusClassification.AddItem(text, classification);
     };
     cboStatusClassification.Clear();
@@ -282,7 +298,7 @@ void CtrSettings::SetUnitConverter()
     }
     for (int row = 1; row <= scgUnits.RowCount(); ++row) {
         const std::string key = step.text([&] { return quantities.nextNode().get_text(); });
-        step([&] { scgUnits.setCellText(row, kQuantity, existing(translator).Translate(key)); });
+        step([&] { scgUnits.setCellText(row, kQuantity, textOf(existing(translator), key)); });
         scgUnits.setCellEditable(row, kQuantity, false);
         scgUnitsKey.setCellText(row, kQuantity, key);
         showUnit(row, step.text([&] { return units->GetDisplayUnit(key).value_or(""); }));
@@ -423,6 +439,8 @@ void CtrSettings::cmdCancel_Click()
 {
     Visible = false;
     selectLanguage(mstrLanguage);
+    // What was entered and not taken yet would come up again instead of the unit.
+    scgUnits.cancelEdit();
     showCurrentUnits();
     setModified(false);
     leave("cmdCancel_Click");

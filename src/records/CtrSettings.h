@@ -19,7 +19,9 @@ namespace quill {
 /// on is called by name ("QuillTranslateTexts" with the language, "QuillInformUnitChanges").
 ///
 /// The host shows it (`show()`, or `Visible`) and hears of its coming and going by `NotifyDialog`.
-/// The quantities are read once, when it is shown for the first time.
+/// The quantities are read once, when it is shown for the first time. `Localize` puts the
+/// classification back to the one in force: a host that localizes the dialog, too, does so after
+/// "QuillTranslateTexts" has returned, or a classification chosen beside the language is lost.
 class CtrSettings : public platform::Control, public IQornComponent, public ILocalizable {
 public:
     explicit CtrSettings(const platform::Design& design = {});

@@ -2,6 +2,7 @@
 
 #include "platform/list_view.h"
 
+#include <array>
 #include <string>
 
 /// The rows of the event log's list.
@@ -18,6 +19,15 @@ inline constexpr const char* kObsolete      = "eventObsolete";
 
 /// Stands in the event column of the row that is drawn behind an external reset.
 inline constexpr const char* kSeparator = "-------------------------------------------";
+
+/// The names of an event's pieces in the datafile and on the first page, and on those behind it.
+struct PieceName {
+    const char* first;
+    const char* next;
+};
+inline constexpr std::array<PieceName, 3> kPieces{{{"eventLogEvent", "eventLogNextEvent"},
+                                                   {"eventLogClass", "eventLogNextClass"},
+                                                   {"eventLogTime", "eventLogNextTime"}}};
 
 /// Columns behind the class, which is the text of the row itself.
 enum Column : int { kEvent = 0, kTime, kDate, kIndex, kRow, kSubItems };

@@ -22,6 +22,16 @@ constexpr double kEndDay   = 2958466;
 
 namespace eventLog {
 
+std::string operationTimeText(const std::string& time)
+{
+    return values::formatNumber(modTools::ParseNumber(time), "######0.00");
+}
+
+std::string eventTimeText(const std::string& time)
+{
+    return values::formatNumber(modTools::ParseNumber(time), "0.0000");
+}
+
 bool isKnown(const std::string& text)
 {
     return !text.empty() && !text.starts_with("00");

@@ -31,9 +31,10 @@ struct EventLogTimes {
 
 namespace eventLog {
 
-/// Patterns of operation times: the total one, and those of events.
-inline constexpr const char* kOperationTimeFormat = "######0.00";
-inline constexpr const char* kEventTimeFormat     = "0.0000";
+/// Operation times as they are shown, the total one and that of an event. A text that is no number
+/// is failure 13.
+[[nodiscard]] std::string operationTimeText(const std::string& time);
+[[nodiscard]] std::string eventTimeText(const std::string& time);
 
 /// Whether the text of a time or date says something: devices that were never read say "00...".
 [[nodiscard]] bool isKnown(const std::string& text);

@@ -5,17 +5,12 @@
 #include "framework/named_callbacks.h"
 #include "framework/values.h"
 #include "platform/toolkit.h"
-#include "status/status_tables.h"
+#include "status/row_tables.h"
+#include "status/status_masks.h"
 
 #include <string_view>
 
 namespace quill {
-
-namespace {
-
-constexpr std::int16_t kPassFailed = 'H'; // where the host's support looks for a pass gone wrong
-
-} // namespace
 
 CtrStatus::CtrStatus(const platform::Design& design) : StatusTreeView("CtrStatus", design)
 {
@@ -137,9 +132,7 @@ void CtrStatus::LoadStatusTree(const IXMLDOMDocument& document)
     mobjSeverity = std::make_unique<StatusSeverity>();
     useClass(miClassification);
 
-    const auto tree = step.value(IXMLDOMNode{}, [&] {
-        return document.get_documentElement().selectSingleNode("//deviceStatus");
-    });
+    const auto tree = treeIn(step, document);
     // A host without a definition has neither classification and ends, as one without both, with
     // NAMUR.
     const std::string xml = step.text([&] { return tree.get_xml(); });
@@ -173,7 +166,7 @@ void CtrStatus::fixClassification(const Steps& step, std::int16_t only, const st
 void CtrStatus::growTables(const Steps& step, int first, int last)
 {
     for (auto* table : {&maiMaskByte, &maiMaskBit, &maiEnabled}) {
-        const std::int16_t fresh = table == &maiEnabled ? 1 : kNoMask;
+        const std::int16_t fresh = table == &maiEnabled ? 1 : statusMasks::kNone;
         step([&] { growTo(*table, last); });
         for (int index = first; index <= last; ++index) {
             step([&] { entryAt(*table, index) = fresh; });
@@ -200,10 +193,9 @@ void CtrStatus::readClasses(const Steps& step, const IXMLDOMNode& status)
 
 void CtrStatus::readMask(const Steps& step, int row, const IXMLDOMNode& status)
 {
-    const auto maskByte = step.value(kNoMask, [&] { return maskNumber(status, "maskByte"); });
-    const auto maskBit  = step.value(kNoMask, [&] { return maskNumber(status, "maskBit"); });
-    step([&] { entryAt(maiMaskByte, row - 1) = maskByte; });
-    step([&] { entryAt(maiMaskBit, row - 1) = maskBit; });
+    const auto position = statusMasks::readPosition(step, status);
+    step([&] { entryAt(maiMaskByte, row - 1) = position.byte; });
+    step([&] { entryAt(maiMaskBit, row - 1) = position.bit; });
 }
 
 // --- Responses --------------------------------------------------------------------------------
@@ -215,7 +207,7 @@ void CtrStatus::SetImportData(const IXMLDOMNode& node)
 
 void CtrStatus::SetOnlineData(const IXMLDOMNode& node)
 {
-    const Steps step = logSteps(kPassFailed, "IQornDataUser_SetOnlineData ");
+    const Steps step = passSteps();
     readClassification(step);
     if (miClassification == kClassSeverity || miClassification == kClassNAMUR) {
         useClass(miClassification);

@@ -93,8 +93,7 @@ private:
     void SetImage(const std::string& mask, int statusClass, int part);
     void applyMask(const Steps& step, int index, const std::string& mask, int statusClass,
                    int part);
-    [[nodiscard]] bool HasMask(int index);
-    /// 0 for digits that cannot be read, nothing for a place that no mask has.
+    [[nodiscard]] bool                        HasMask(int index);
     [[nodiscard]] std::optional<std::uint8_t> GetMaskByte(const std::string& mask, int position);
     void SetMaskByte(std::string& mask, int position, std::uint8_t value);
 

@@ -4,7 +4,7 @@
 #include "framework/documents.h"
 #include "framework/modTools.h"
 #include "framework/values.h"
-#include "status/status_tables.h"
+#include "status/status_masks.h"
 
 #include <algorithm>
 
@@ -12,10 +12,7 @@ namespace quill {
 
 namespace {
 
-constexpr std::int16_t kPassFailed = 'H'; // where the host's support looks for a pass gone wrong
-
 constexpr const char* kStatusSyncName = "deviceStatusNAMUR";
-constexpr const char* kMasksRequest   = "deviceStatusMasks";
 
 } // namespace
 
@@ -198,9 +195,7 @@ void CtrStatusF::LoadStatusTree(const IXMLDOMDocument& document)
     const Steps step{[](int number, const std::string& description) {
         modTools::WriteDebugError("CtrStatusF", "LoadStatusTree", number, description);
     }};
-    const auto  tree = step.value(IXMLDOMNode{}, [&] {
-        return document.get_documentElement().selectSingleNode("//deviceStatus");
-    });
+    const auto  tree = treeIn(step, document);
     mblnAccepts      = isOffline(step);
     const auto icon =
         mblnAccepts ? std::string{} : step.text([&] { return statusClass().ImageNotRead(); });
@@ -235,7 +230,7 @@ void CtrStatusF::SetOfflineData(const IXMLDOMNode& node)
     const Steps step = steps("IQornDataUser_SetOfflineData");
     log(step, kLogDecision, "CtrStatusF entering IQornDataUser_SetOfflineData");
     step([&] {
-        const auto masks = documents::findParametersByPrefix(node, kMaskPrefix);
+        const auto masks = documents::findParametersByPrefix(node, statusMasks::kNamePrefix);
         if (mobjConfiguration) {
             mobjConfiguration->SetOfflineParameters(masks);
         }
@@ -256,18 +251,17 @@ void CtrStatusF::SetOnlineData(const IXMLDOMNode& node)
     if (mblnSleeping) {
         return;
     }
-    const Steps       step = logSteps(kPassFailed, "IQornDataUser_SetOnlineData ");
+    const Steps       step = passSteps();
     const std::string name = step.text([&] { return documents::responseAttribute(node, "name"); });
     if (name == "deviceStatus") {
-        showStatus(node);
+        showStatus(step, node);
     } else if (name == kMasksRequest) {
         SetOnlineMask(node);
     }
 }
 
-void CtrStatusF::showStatus(const IXMLDOMNode& response)
+void CtrStatusF::showStatus(const Steps& step, const IXMLDOMNode& response)
 {
-    const Steps step = logSteps(kPassFailed, "IQornDataUser_SetOnlineData ");
     Pass        pass = beginPass(step);
     std::string lastClass;
     step([&] {

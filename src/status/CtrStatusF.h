@@ -69,6 +69,9 @@ protected:
     void               readMask(const Steps& step, int row, const IXMLDOMNode& status) override;
 
 private:
+    /// The name of the request that reads or writes the masks.
+    static constexpr const char* kMasksRequest = "deviceStatusMasks";
+
     void UserControl_Initialize();
     void cmdConfiguration_Click();
     void cmdConfiguration_LostFocus();
@@ -79,7 +82,7 @@ private:
     void LoadStatusTree(const IXMLDOMDocument& document);
     void showCaptions();
 
-    void showStatus(const IXMLDOMNode& response);
+    void showStatus(const Steps& step, const IXMLDOMNode& response);
     void showRow(Pass& pass, const IXMLDOMNode& response, int index, std::string& lastClass);
     void restoreIcon(const Steps& step, int index);
     void SetOnlineMask(const IXMLDOMNode& response);

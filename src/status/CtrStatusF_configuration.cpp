@@ -2,7 +2,7 @@
 #include "framework/values.h"
 #include "platform/toolkit.h"
 #include "status/CtrStatusF.h"
-#include "status/status_tables.h"
+#include "status/status_masks.h"
 
 namespace quill {
 
@@ -11,7 +11,6 @@ namespace {
 constexpr const char* kCheckEnabled  = "checkEnabled";
 constexpr const char* kCheckDisabled = "checkDisabled";
 constexpr const char* kModified      = "modified";
-constexpr const char* kMasksRequest  = "deviceStatusMasks";
 
 bool isModified(const std::string& key)
 {
@@ -165,7 +164,7 @@ void CtrStatusF::SetOnlineMask(const IXMLDOMNode& response)
 {
     const Steps step = steps("SetOnlineMask");
     step([&] {
-        const auto masks = documents::findItemsByPrefix(response, kMaskPrefix);
+        const auto masks = documents::findItemsByPrefix(response, statusMasks::kNamePrefix);
         if (mobjConfiguration) {
             mobjConfiguration->SetOnlineParameters(masks);
         }

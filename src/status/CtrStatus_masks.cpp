@@ -2,8 +2,8 @@
 #include "framework/values.h"
 #include "platform/utf8.h"
 #include "status/CtrStatus.h"
+#include "status/row_tables.h"
 #include "status/status_masks.h"
-#include "status/status_tables.h"
 
 #include <utility>
 
@@ -43,8 +43,9 @@ void CtrStatus::SetOfflineData(const IXMLDOMNode& node)
 {
     const Steps step = steps("IQornDataUser_SetOfflineData");
     log(step, kLogDecision, "CtrStatus entering IQornDataUser_SetOfflineData");
-    const auto parameters = step.value(
-        IXMLDOMNodeList{}, [&] { return documents::findParametersByPrefix(node, kMaskPrefix); });
+    const auto parameters = step.value(IXMLDOMNodeList{}, [&] {
+        return documents::findParametersByPrefix(node, statusMasks::kNamePrefix);
+    });
     if (parameters.get_length() > 0) {
         allocateMasks(step, parameters);
     }
@@ -92,11 +93,8 @@ void CtrStatus::mMessenger_ViewReceiveValue(std::string name, const std::string&
 
 CtrStatus::MaskPart CtrStatus::partIn(const std::string& name)
 {
-    const std::string last = utf8::substring(name, utf8::length(name) - 1);
-    if (!values::isNumeric(last)) {
-        return {};
-    }
-    return {static_cast<int>(values::parseLocal(last)), 3};
+    const auto part = statusMasks::partInName(name);
+    return part ? MaskPart{*part, 3} : MaskPart{};
 }
 
 void CtrStatus::ChangeMask(std::string& name, const std::string& value)
@@ -176,18 +174,14 @@ void CtrStatus::applyMask(const Steps& step, int index, const std::string& mask,
 bool CtrStatus::HasMask(int index)
 {
     return steps("HasMask").value(false, [&] {
-        return entryAt(maiMaskByte, index) != kNoMask && entryAt(maiMaskBit, index) != kNoMask;
+        return entryAt(maiMaskByte, index) != statusMasks::kNone &&
+               entryAt(maiMaskBit, index) != statusMasks::kNone;
     });
 }
 
 std::optional<std::uint8_t> CtrStatus::GetMaskByte(const std::string& mask, int position)
 {
-    std::optional<std::uint8_t> byte;
-    if (position >= 0) {
-        byte = 0;
-    }
-    steps("GetMaskByte")([&] { byte = statusMasks::getByte(mask, position); });
-    return byte;
+    return statusMasks::readByte(steps("GetMaskByte"), mask, position);
 }
 
 void CtrStatus::SetMaskByte(std::string& mask, int position, std::uint8_t value)

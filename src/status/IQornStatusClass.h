@@ -23,7 +23,9 @@ public:
     /// The class of a condition of which nothing is known any more.
     [[nodiscard]] virtual std::string ImageUnknown() const = 0;
     /// The class of a condition, empty for one that was never read.
-    [[nodiscard]] virtual std::string GetClass(const std::string& name) const      = 0;
+    [[nodiscard]] virtual std::string GetClass(const std::string& name) const = 0;
+    /// Gives a condition another class. The classifications differ in whether one that was never
+    /// read is added.
     virtual void SetClass(const std::string& name, const std::string& statusClass) = 0;
     /// The worse of two classes. One that the classification does not have counts as the lowest.
     [[nodiscard]] virtual std::string GetWorst(const std::string& a,

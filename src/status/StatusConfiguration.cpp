@@ -4,8 +4,8 @@
 #include "framework/values.h"
 #include "platform/failure.h"
 #include "platform/utf8.h"
+#include "status/row_tables.h"
 #include "status/status_masks.h"
-#include "status/status_tables.h"
 
 #include <optional>
 #include <utility>
@@ -75,24 +75,22 @@ IXMLDOMDocument StatusConfiguration::GetXmlItem(bool /*force*/)
 void StatusConfiguration::AddBit(std::int16_t index, const IXMLDOMNode& status)
 {
     const Steps step = steps("clsStatusConfiguration AddBit");
-    mRowOfName.clear();
+    mNames           = {};
     if (index >= 0 && static_cast<std::size_t>(index) >= mRows.size()) {
         mRows.resize(static_cast<std::size_t>(index) + 1);
     }
-    std::int16_t maskByte = kNoMask;
-    std::int16_t maskBit  = kNoMask;
+    statusMasks::Position position;
     if (status) {
-        maskByte = step.value(kNoMask, [&] { return maskNumber(status, "maskByte"); });
-        maskBit  = step.value(kNoMask, [&] { return maskNumber(status, "maskBit"); });
+        position = statusMasks::readPosition(step, status);
         step([&] { rowAt(index).name = documents::attributeText(status, "name"); });
     }
-    step([&] { rowAt(index).maskByte = maskByte; });
-    step([&] { rowAt(index).maskBit = maskBit; });
+    step([&] { rowAt(index).maskByte = position.byte; });
+    step([&] { rowAt(index).maskBit = position.bit; });
 }
 
 bool StatusConfiguration::HasMask(const Row& row)
 {
-    return row.maskByte != kNoMask && row.maskBit != kNoMask;
+    return row.maskByte != statusMasks::kNone && row.maskBit != statusMasks::kNone;
 }
 
 const StatusConfiguration::Row& StatusConfiguration::rowAt(std::int16_t index) const
@@ -115,14 +113,13 @@ std::int16_t StatusConfiguration::GetIndex(const std::string& key) const
 // A pass over the status tree asks for every condition by its name, and no row comes meanwhile.
 std::int16_t StatusConfiguration::firstRowOf(const std::string& name) const
 {
-    if (mRowOfName.empty()) {
-        std::int16_t index = 0;
+    if (mNames.size() == 0) {
         for (const Row& row : mRows) {
-            mRowOfName.try_emplace(row.name, index++);
+            mNames.add(row.name);
         }
     }
-    const auto found = mRowOfName.find(name);
-    return found == mRowOfName.end() ? kNoRow : found->second;
+    const auto place = mNames.find(name);
+    return place == NameTable::kNone ? kNoRow : static_cast<std::int16_t>(place);
 }
 
 bool StatusConfiguration::IsEnabled(const std::string& key) const
@@ -225,8 +222,7 @@ void StatusConfiguration::ChangeMask(std::string parameterName, const std::strin
         log(kLogContract,
             "clsStatusConfiguration entering ChangeMask " + parameterName + " " + mask);
     });
-    const std::string last = utf8::substring(parameterName, utf8::length(parameterName) - 1);
-    const int part = values::isNumeric(last) ? static_cast<int>(values::parseLocal(last)) : 1;
+    const int part = statusMasks::partInName(parameterName).value_or(1);
     parameterName  = utf8::toLower(parameterName);
     std::string oldPart;
     step([&] { oldPart = std::exchange(entryAt(mastrMaskParts, part - 1), mask); });
@@ -285,13 +281,7 @@ void StatusConfiguration::parseRow(const Steps& step, Row& row, const std::strin
 std::optional<std::uint8_t> StatusConfiguration::GetMaskByte(const std::string& mask,
                                                              int                place) const
 {
-    std::optional<std::uint8_t> byte;
-    if (place >= 0) {
-        byte = 0;
-    }
-    steps("clsStatusConfiguration GetMaskByte: ")(
-        [&] { byte = statusMasks::getByte(mask, place); });
-    return byte;
+    return statusMasks::readByte(steps("clsStatusConfiguration GetMaskByte: "), mask, place);
 }
 
 // --- Masks that go out ------------------------------------------------------------------------
@@ -321,9 +311,9 @@ void StatusConfiguration::StoreBitForExport(std::int16_t index)
         return;
     }
     // The node and not the part as it came: what was changed since stands in the node alone.
-    const auto changed = step.value(std::optional<std::string>{}, [&] {
-        return changedPart(step, row, place, documents::attributeText(parameter, "value"));
-    });
+    const auto oldPart = step.text([&] { return documents::attributeText(parameter, "value"); });
+    const auto changed = step.value(std::optional<std::string>{},
+                                    [&] { return changedPart(step, row, place, oldPart); });
     if (changed) {
         step([&] { documents::writeAttribute(parameter, "value", *changed); });
         step([&] { documents::writeAttribute(parameter, "synchronised", "0"); });

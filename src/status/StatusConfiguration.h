@@ -1,12 +1,12 @@
 #pragma once
 
 #include "framework/host_contract.h"
+#include "framework/name_table.h"
 #include "framework/steps.h"
 
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <unordered_map>
 #include <vector>
 
 namespace quill {
@@ -85,7 +85,6 @@ private:
     [[nodiscard]] std::int16_t GetIndex(const std::string& key) const;
     [[nodiscard]] std::int16_t firstRowOf(const std::string& name) const;
 
-    /// 0 for digits that cannot be read, nothing for a place that no mask has.
     [[nodiscard]] std::optional<std::uint8_t> GetMaskByte(const std::string& mask, int place) const;
 
     void ChangeMask(std::string parameterName, const std::string& mask);
@@ -105,8 +104,8 @@ private:
     std::int16_t             miPartCount   = 1;
     std::vector<std::string> mastrMaskParts;
     std::vector<Row>         mRows;
-    /// The first row of each name; empty while rows are being added.
-    mutable std::unordered_map<std::string, std::int16_t> mRowOfName;
+    /// The names of the rows; empty while rows are being added.
+    mutable NameTable mNames;
 };
 
 } // namespace quill

@@ -34,6 +34,12 @@ Steps StatusTreeView::logSteps(std::int16_t category, const std::string& place)
     }};
 }
 
+Steps StatusTreeView::passSteps()
+{
+    constexpr std::int16_t kPassFailed = 'H'; // where the host's support looks for it
+    return logSteps(kPassFailed, "IQornDataUser_SetOnlineData ");
+}
+
 void StatusTreeView::log(const Steps& step, std::int16_t category, const std::string& text)
 {
     step([&] { host().WriteLog(category, text); });

@@ -6,7 +6,7 @@
 #include "platform/pictures.h"
 #include "status/IQornStatusClass.h"
 #include "status/row_descriptions.h"
-#include "status/status_tables.h"
+#include "status/row_tables.h"
 
 #include <cstdint>
 #include <string>
@@ -64,30 +64,13 @@ protected:
 
     /// To the host's log: class name, blank, `place`, number, ": " and description.
     [[nodiscard]] Steps logSteps(std::int16_t category, const std::string& place);
+    /// For what goes wrong while a response runs over the rows.
+    [[nodiscard]] Steps passSteps();
+    /// Without a host, a layout that fails has nobody to tell.
+    [[nodiscard]] Steps debugSteps(const char*) const override { return silentSteps(); }
     void                log(const Steps& step, std::int16_t category, const std::string& text);
 
     // --- Rows ---------------------------------------------------------------------------------
-
-    /// Lets a table grow to a last index, and never loses an entry. Failure 9 for one below 0.
-    template <class T>
-    static void growTo(std::vector<T>& table, int last)
-    {
-        if (last < 0) {
-            throw platform::failure(platform::kSubscriptOutOfRange);
-        }
-        if (table.size() <= static_cast<std::size_t>(last)) {
-            table.resize(static_cast<std::size_t>(last) + 1);
-        }
-    }
-    /// Gives a table exactly this last index. Failure 9 for one below 0.
-    template <class T>
-    static void cutTo(std::vector<T>& table, int last)
-    {
-        if (last < 0) {
-            throw platform::failure(platform::kSubscriptOutOfRange);
-        }
-        table.resize(static_cast<std::size_t>(last) + 1);
-    }
 
     [[nodiscard]] std::string&       imageAt(int index) { return entryAt(mastrImages, index); }
     [[nodiscard]] const std::string& keyAt(int index) const
@@ -121,6 +104,8 @@ protected:
     };
     /// Empties the twin grids and gives them their form.
     void setUpGrids();
+    /// The `deviceStatus` element of the device type information.
+    [[nodiscard]] static IXMLDOMNode treeIn(const Steps& step, const IXMLDOMDocument& document);
     /// Adds the rows of a `deviceStatus` element.
     void loadRows(const Steps& step, const IXMLDOMNode& deviceStatus, const FreshRow& fresh);
     /// The tables beside the images: entries `first` to `last` are new.

@@ -5,6 +5,13 @@ namespace quill {
 
 using platform::NodeType;
 
+IXMLDOMNode StatusTreeView::treeIn(const Steps& step, const IXMLDOMDocument& document)
+{
+    return step.value(IXMLDOMNode{}, [&] {
+        return document.get_documentElement().selectSingleNode("//deviceStatus");
+    });
+}
+
 void StatusTreeView::loadRows(const Steps& step, const IXMLDOMNode& deviceStatus,
                               const FreshRow& fresh)
 {

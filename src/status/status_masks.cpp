@@ -34,6 +34,26 @@ void expectPlace(int place)
 
 } // namespace
 
+Position readPosition(const Steps& step, const platform::IXMLDOMNode& status)
+{
+    const auto number = [&](const char* attribute) {
+        return step.value(kNone, [&] {
+            const auto        node = platform::attributeNode(status, attribute);
+            const std::string text = node ? node.get_text() : std::string{};
+            return values::isNumeric(text) ? values::toInt16(values::parseLocal(text)) : kNone;
+        });
+    };
+    const std::int16_t byte = number("maskByte");
+    return {byte, number("maskBit")};
+}
+
+std::optional<int> partInName(const std::string& name)
+{
+    const std::string last = utf8::substring(name, utf8::length(name) - 1);
+    return values::isNumeric(last) ? std::optional{static_cast<int>(values::parseLocal(last))}
+                                   : std::nullopt;
+}
+
 int bytesInPart(int digits)
 {
     return static_cast<int>(values::roundToEven(static_cast<double>(digits) / kDigitsOfByte));
@@ -82,6 +102,16 @@ std::uint8_t getByte(const std::string& mask, int place)
         throw platform::failure(platform::kTypeMismatch);
     }
     return value;
+}
+
+std::optional<std::uint8_t> readByte(const Steps& step, const std::string& mask, int place)
+{
+    std::optional<std::uint8_t> byte;
+    if (place >= 0) {
+        byte = 0;
+    }
+    step([&] { byte = getByte(mask, place); });
+    return byte;
 }
 
 std::string setByte(const std::string& mask, int place, std::uint8_t value)

@@ -2,20 +2,28 @@
 
 namespace quill {
 
+void StatusTable::add(const std::string& name, const std::string& statusClass)
+{
+    if (mNames.find(name) == NameTable::kNone) {
+        mNames.add(name);
+        mClasses.push_back(statusClass);
+    }
+}
+
 bool StatusTable::change(const std::string& name, const std::string& statusClass)
 {
-    const auto found = mClasses.find(name);
-    if (found == mClasses.end()) {
+    const auto place = mNames.find(name);
+    if (place == NameTable::kNone) {
         return false;
     }
-    found->second = statusClass;
+    mClasses[place] = statusClass;
     return true;
 }
 
 std::string StatusTable::classOf(const std::string& name) const
 {
-    const auto found = mClasses.find(name);
-    return found == mClasses.end() ? std::string{} : found->second;
+    const auto place = mNames.find(name);
+    return place == NameTable::kNone ? std::string{} : mClasses[place];
 }
 
 } // namespace quill

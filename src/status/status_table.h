@@ -1,7 +1,9 @@
 #pragma once
 
+#include "framework/name_table.h"
+
 #include <string>
-#include <unordered_map>
+#include <vector>
 
 namespace quill {
 
@@ -10,18 +12,18 @@ namespace quill {
 /// from the start, with an empty class.
 class StatusTable {
 public:
+    StatusTable() { add({}, {}); }
+
     /// Adds a condition; one that is there already stays as it is.
-    void add(const std::string& name, const std::string& statusClass)
-    {
-        mClasses.try_emplace(name, statusClass);
-    }
+    void add(const std::string& name, const std::string& statusClass);
     /// Changes the class of a condition that is there; false if it is not.
     bool change(const std::string& name, const std::string& statusClass);
     /// Empty for a condition that is not there.
     [[nodiscard]] std::string classOf(const std::string& name) const;
 
 private:
-    std::unordered_map<std::string, std::string> mClasses{{"", ""}};
+    NameTable                mNames;
+    std::vector<std::string> mClasses; ///< by the place of the name
 };
 
 } // namespace quill

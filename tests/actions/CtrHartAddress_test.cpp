@@ -256,6 +256,20 @@ TEST_F(CtrHartAddressTest, TheFormListsTheButtonFirstAndTheTabKeyComesToItLast)
     EXPECT_THAT(names(view.Widgets(), true), ElementsAre("cceMultidrop", "cceAddress", "cmdSet"));
 }
 
+TEST_F(CtrHartAddressTest, AFailingLayoutIsReportedToTheHostOrElseToTheDebugOutput)
+{
+    const auto fails = view.frmViews.Changed.subscribe(
+        [](const platform::WidgetChange&) { throw platform::failure(platform::kInvalidCall); });
+    view.Width = 8000;
+    EXPECT_THAT(toolkit.debugLines,
+                ElementsAre(HasSubstr("CtrHartAddress UserControl_Resize - Error5: ")));
+    view.SetMessenger(&messenger);
+    messenger.clear();
+    view.Width = 9000;
+    EXPECT_THAT(messenger.errors(), ElementsAre(HasSubstr("CtrHartAddress UserControl_Resize: ")));
+    EXPECT_EQ(toolkit.debugLines.size(), 1U);
+}
+
 TEST_F(CtrHartAddressTest, LongLabelsTakeTheirRoomFromTheBoxes)
 {
     translator.texts["multidrop"] = std::string(25, 'x');

@@ -406,6 +406,20 @@ TEST_F(CtrMACalibrationTest, TheDateStandsInTheUpperRightCorner)
     EXPECT_EQ(view.frmViews.Width, 9000);
 }
 
+TEST_F(CtrMACalibrationTest, AFailingLayoutIsReportedToTheHostAndDroppedWhereThereIsNone)
+{
+    const auto fails = view.frmViews.Changed.subscribe(
+        [](const platform::WidgetChange&) { throw platform::failure(platform::kInvalidCall); });
+    view.Width = 8000;
+    EXPECT_THAT(messenger.errors(),
+                ElementsAre(HasSubstr("CtrMACalibration UserControl_Resize: ")));
+    view.SetMessenger(nullptr);
+    messenger.clear();
+    view.Width = 9000;
+    EXPECT_THAT(messenger.errors(), IsEmpty());
+    EXPECT_THAT(toolkit.debugLines, IsEmpty());
+}
+
 TEST_F(CtrMACalibrationTest, TheFocusComesToTheFirstEditor)
 {
     load();

@@ -154,6 +154,16 @@ TEST_F(CtrModuleSelectionTest, AMissingParameterDocumentLeavesTheListEmptyAndSho
     EXPECT_THAT(reports(), ElementsAre(HasSubstr("CtrModuleSelection SetOfflineData: , 53")));
 }
 
+TEST_F(CtrModuleSelectionTest, AfterALoadThatFailsNoModuleOfTheFileBeforeCanBeApplied)
+{
+    load();
+    write("<broken");
+    load();
+    choose("M2");
+    EXPECT_FALSE(messenger.wasCalled("SetHostDocument"));
+    EXPECT_THAT(reports(), IsEmpty());
+}
+
 TEST_F(CtrModuleSelectionTest, AHostWithoutADocumentEndsTheLoad)
 {
     messenger.hostDocuments.clear();
@@ -254,6 +264,31 @@ TEST_F(CtrModuleSelectionTest, ALengthThatDoesNotParseCountsAsZeroWithAReport)
         EXPECT_THAT(rebuilt(), HasSubstr(kHead)) << broken;
         EXPECT_THAT(rebuilt(), HasSubstr("0008223344556677")) << broken;
     }
+}
+
+TEST_F(CtrModuleSelectionTest, ALengthBehindTheEndLosesNothingOfTheConfiguration)
+{
+    for (const char* length : {"8000", "FFFF"}) {
+        const std::string rest         = kHead + length + "AABB0005CCDDEE7788";
+        messenger.hostDocuments["FDT"] = hostDocument("0012" + rest);
+        load();
+        choose("M1");
+        EXPECT_THAT(rebuilt(), EndsWith(rest + "000311")) << length;
+        EXPECT_THAT(reports(), ElementsAre(HasSubstr(", 13"))) << length;
+    }
+}
+
+TEST_F(CtrModuleSelectionTest, PlacesAndLengthsCountCharactersNotBytes)
+{
+    const auto withUmlaut = [](std::string text) { return text.replace(5, 1, "\u00e4"); };
+    write(moduleDocument(module("Umlaut", "22\u00e433")));
+    messenger.hostDocuments["FDT"] =
+        hostDocument(withUmlaut(configuration("AABB", "CCDDEE", "778899")));
+    load();
+    choose("Umlaut");
+    EXPECT_EQ(rebuilt(),
+              "001C" + withUmlaut("xxxx" + kHead).substr(4) + "0004AABB000422\u00e433778899");
+    EXPECT_THAT(reports(), IsEmpty());
 }
 
 TEST_F(CtrModuleSelectionTest, AModuleThatIsTooLongIsAnOverflow)

@@ -263,9 +263,17 @@ TEST_F(CtrResetTest, AnAnswerWithoutItemsIsMatchedByItsName)
 TEST_F(CtrResetTest, AnAnswerThatIsNoneIsReportedAndChangesNothing)
 {
     load();
+    goOnline();
+    for (CtrComboEdit& row : view.cceReset) {
+        row.cboBox.choose(1);
+        ASSERT_TRUE(row.Modified());
+    }
     view.SetOnlineData(documents::openText("<dtm/>"));
     EXPECT_THAT(messenger.errors(),
                 ElementsAre(HasSubstr("CtrReset IQornDataUser_SetOnlineData: ")));
+    for (const CtrComboEdit& row : view.cceReset) {
+        EXPECT_TRUE(row.Modified());
+    }
 }
 
 TEST_F(CtrResetTest, AnErrorIsTakenIfItsNameLiesInTheViewsTag)
@@ -318,12 +326,37 @@ TEST_F(CtrResetTest, TabLeadsOutOfTheViewAtItsTwoEnds)
     EXPECT_EQ(messenger.callsTo("TransferFocus").size(), 2U);
 }
 
+TEST_F(CtrResetTest, TheViewHearsOfTheModeBeforeItsRows)
+{
+    load();
+    view.cceReset[0].cboBox.focus();
+    toolkit.keysDown = {platform::kKeyTab, platform::kKeyShift};
+    messenger.clear();
+    // The first row is disabled by this mode and gives up the focus.
+    messenger.ViewSetCommunicationMode.raise(kEditingBarred);
+    EXPECT_THAT(messenger.calls,
+                ElementsAre("GetUserLevel()", "GetCommunicationMode()", "TransferFocus()"));
+}
+
 TEST_F(CtrResetTest, TheFrameFillsTheViewAndIsWhite)
 {
     view.resize(8000, 5000);
     EXPECT_EQ(view.frmViews.Width, 8000);
     EXPECT_EQ(view.frmViews.Height, 5000);
     EXPECT_EQ(view.frmViews.BackColor, 0xffffffU);
+}
+
+TEST_F(CtrResetTest, AFailingLayoutIsReportedToTheHostAndDroppedWhereThereIsNone)
+{
+    const auto fails = view.frmViews.Changed.subscribe(
+        [](const platform::WidgetChange&) { throw platform::failure(platform::kInvalidCall); });
+    view.Width = 8000;
+    EXPECT_THAT(messenger.errors(), ElementsAre(HasSubstr("CtrReset UserControl_Resize: ")));
+    view.SetMessenger(nullptr);
+    messenger.clear();
+    view.Width = 9000;
+    EXPECT_THAT(messenger.errors(), IsEmpty());
+    EXPECT_THAT(toolkit.debugLines, IsEmpty());
 }
 
 TEST_F(CtrResetTest, LongLabelsTakeTheirRoomFromTheBoxes)

@@ -26,10 +26,10 @@ TEST(BusConfiguration, DigitsThatTheEndCutsOffDoNotCount)
     EXPECT_EQ(wordAt("001F", 3), 0x1F);
 }
 
-TEST(BusConfiguration, AWordWithTheHighestBitIsNegative)
+TEST(BusConfiguration, AWordHasNoSign)
 {
-    EXPECT_EQ(wordAt("8000", 1), -32768);
-    EXPECT_EQ(wordAt("FFFF", 1), -1);
+    EXPECT_EQ(wordAt("8000", 1), 0x8000);
+    EXPECT_EQ(wordAt("FFFF", 1), 0xFFFF);
 }
 
 TEST(BusConfiguration, WritesFourUpperCaseDigits)
@@ -53,6 +53,14 @@ TEST(BusConfiguration, AWordThatIsTooLargeIsAnOverflow)
     } catch (const platform::Failure& failure) {
         EXPECT_EQ(failure.number(), platform::kOverflow);
     }
+}
+
+TEST(BusConfiguration, PlacesCountCharacters)
+{
+    EXPECT_EQ(wordAt("\u00e40012", 2), 0x12);
+    EXPECT_EQ(wordAt("00\u00e42", 1), std::nullopt);
+    EXPECT_EQ(piece("\u00e4BCD", 2, 2), "BC");
+    EXPECT_EQ(rest("\u00e4BCD", 3), "CD");
 }
 
 TEST(BusConfiguration, APieceEndsWhereTheTextEnds)

@@ -93,11 +93,8 @@ TEST_F(CheckEditData, StaysBoundToItsFirstParameter)
 TEST_F(CheckEditData, DoesNothingForAnEmptyNode)
 {
     loadQuietly();
-    EXPECT_FALSE(edit.setOfflineData(nullptr));
-    EXPECT_FALSE(edit.setOnlineData(nullptr));
-    EXPECT_FALSE(edit.setImportData(nullptr));
+    expectThatEmptyNodesDoNothing();
     EXPECT_THAT(rows(), ElementsAre("x", "x", "o"));
-    EXPECT_THAT(messenger.calls, IsEmpty());
 }
 
 class CheckEditWithout : public CheckEditTest, public testing::WithParamInterface<const char*> {};
@@ -120,7 +117,7 @@ INSTANTIATE_TEST_SUITE_P(Attributes, CheckEditWithout,
 
 TEST_F(CheckEditData, IsReadOnlyWhereTheAccessSaysNoWrite)
 {
-    load("5", "0", kBits, "read");
+    load("5", "0", kBits, "bitEnumVal", "read");
     EXPECT_FALSE(edit.scgCheck.Editable);
     EXPECT_EQ(edit.scgCheck.BackColor, editorColors::kGrey);
     EXPECT_EQ(edit.scgCheck.cell(2, 2).BackColor, editorColors::kGrey);
@@ -134,7 +131,7 @@ TEST_F(CheckEditData, IsReadOnlyWhereTheAccessSaysNoWrite)
     edit.setEnabled(false); // has no say while silent and locked
     EXPECT_TRUE(edit.Enabled());
 
-    load("5", "1", kBits, "reAdWrIteOffline");
+    load("5", "1", kBits, "bitEnumVal", "reAdWrIteOffline");
     EXPECT_TRUE(edit.scgCheck.Editable);
     EXPECT_EQ(edit.scgCheck.BackColor, editorColors::kWhite);
     EXPECT_EQ(click(1), UserDoor::done);
@@ -270,15 +267,7 @@ TEST_F(CheckEditData, BooksNoneWhereNoRowIsChecked)
 TEST_F(CheckEditData, BooksByScopeAndNotWhileSilent)
 {
     load("5");
-    messenger.RequestChanges(kModifiedEditors);
-    messenger.RequestChanges(kAllEditors);
-    EXPECT_THAT(messenger.bookings, IsEmpty());
-    edit.setContextTag("group");
-    messenger.RequestChanges(kAllEditors);
-    EXPECT_EQ(messenger.bookings.size(), 1U);
-    edit.setSilent(true);
-    messenger.RequestChanges(kAllEditors);
-    EXPECT_EQ(messenger.bookings.size(), 1U);
+    expectBookingsByScopeAndNotWhileSilent();
 }
 
 TEST_F(CheckEditData, BooksByNameWithoutATranslator)

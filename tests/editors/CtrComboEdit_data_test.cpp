@@ -89,7 +89,7 @@ TEST_F(ComboEditData, AValueThatMapsToAHiddenEntryShowsNothing)
 
 TEST_F(ComboEditData, IsReadOnlyUnlessTheAccessSaysWrite)
 {
-    load("1", "1", kEntries, "integerVal", "read");
+    load("1", "1", kModes, "integerVal", "read");
     EXPECT_TRUE(edit.Locked());
     EXPECT_TRUE(edit.Silent());
     EXPECT_EQ(edit.cboBox.BackColor, editorColors::kGrey);
@@ -98,7 +98,7 @@ TEST_F(ComboEditData, IsReadOnlyUnlessTheAccessSaysWrite)
     EXPECT_TRUE(edit.Enabled());
 
     CtrComboEdit other{frame, {.Name = "other", .Tag = "ctr_mode"}};
-    give(attributes("1", "1", "integerVal", "READWRITE"));
+    give("1", "1", kModes, "integerVal", "READWRITE");
     other.setOfflineData(parameter());
     EXPECT_FALSE(other.Locked());
     EXPECT_FALSE(other.Silent());
@@ -109,7 +109,7 @@ TEST_F(ComboEditData, StaysBoundToItsFirstParameter)
     load("1");
     const auto first = datafile;
     EXPECT_TRUE(edit.IsInitialized());
-    give(attributes("0", "1"));
+    give("0", "1");
     edit.setOfflineData(parameter());
     EXPECT_EQ(edit.Text(), "off");
     edit.cboBox.choose(2);
@@ -120,12 +120,8 @@ TEST_F(ComboEditData, StaysBoundToItsFirstParameter)
 TEST_F(ComboEditData, DoesNothingForAnEmptyNode)
 {
     loadQuietly("1");
-    EXPECT_FALSE(edit.setOfflineData(nullptr));
-    EXPECT_FALSE(edit.setOnlineData(nullptr));
-    EXPECT_FALSE(edit.setImportData(nullptr));
+    expectThatEmptyNodesDoNothing();
     EXPECT_EQ(edit.Text(), "on");
-    EXPECT_THAT(changes, IsEmpty());
-    EXPECT_THAT(messenger.calls, IsEmpty());
 }
 
 TEST_F(ComboEditData, WorksWithoutAMessenger)
@@ -142,7 +138,7 @@ class ComboEditWithout : public ComboEditTest, public testing::WithParamInterfac
 
 TEST_P(ComboEditWithout, AnAttributeGoesOnAndReports)
 {
-    give(attributes("1", "1"));
+    give("1", "1");
     parameter().get_attributes().removeNamedItem(GetParam());
     edit.SetMappings(mappedParam());
     EXPECT_TRUE(edit.setOfflineData(parameter()));
@@ -165,11 +161,11 @@ TEST_F(ComboEditData, IsServedByAPage)
     CtrComboEdit combo{page, {.Name = "combo", .Tag = "ctr_mode"}};
     page.SetMessenger(&messenger);
     page.Localize(translator);
-    give(attributes("7", "1"));
+    give("7", "1");
     page.SetOfflineData(datafile);
     EXPECT_EQ(combo.Text(), "auto");
     (void)online("1");
-    page.SetOnlineData(mResponse);
+    page.SetOnlineData(response);
     EXPECT_EQ(combo.Text(), "on");
     EXPECT_THAT(messenger.errors(), IsEmpty());
 }

@@ -18,7 +18,7 @@ class ComboEditList : public ComboEditTest {};
 
 TEST_F(ComboEditList, ListsTheNamesOfItsEntriesAsTheyStand)
 {
-    give("");
+    give("", "1");
     edit.SetMappings(mappedParam());
     EXPECT_TRUE(edit.HasMappings());
     EXPECT_THAT(edit.cboBox.List(), ElementsAre("off", "on", "auto"));
@@ -30,7 +30,7 @@ TEST_F(ComboEditList, ListsTheNamesOfItsEntriesAsTheyStand)
 
 TEST_F(ComboEditList, LeavesTheListInTheDatafileAlone)
 {
-    give("");
+    give("", "1");
     const std::string before = mappedParam().get_xml();
     edit.SetMappings(mappedParam());
     edit.SetItemVisibilityAll(false);
@@ -39,7 +39,7 @@ TEST_F(ComboEditList, LeavesTheListInTheDatafileAlone)
 
 TEST_F(ComboEditList, TakesNoCommentForAnEntry)
 {
-    give("", R"(<!-- first --><data:mapping value="0" name="off"/><!-- last -->)");
+    give("", "1", R"(<!-- first --><data:mapping value="0" name="off"/><!-- last -->)");
     edit.SetMappings(mappedParam());
     EXPECT_THAT(edit.cboBox.List(), ElementsAre("off"));
     EXPECT_EQ(edit.GetIndex("0"), 0);
@@ -66,7 +66,7 @@ TEST_F(ComboEditList, KeepsItsListWhenGivenNone)
 TEST_F(ComboEditList, ReplacesItsListByANewOneWithNothingChosen)
 {
     load("7");
-    give("", R"(<data:mapping value="4" name="four"/>)");
+    give("", "1", R"(<data:mapping value="4" name="four"/>)");
     edit.SetMappings(mappedParam());
     EXPECT_THAT(edit.cboBox.List(), ElementsAre("four"));
     EXPECT_EQ(edit.cboBox.ListIndex(), -1);
@@ -74,7 +74,7 @@ TEST_F(ComboEditList, ReplacesItsListByANewOneWithNothingChosen)
 
 TEST_F(ComboEditList, ReportsAnEntryWithoutNameAndKeepsItsPlace)
 {
-    give("", R"(<data:mapping value="0"/><data:mapping value="1" name="on"/>)");
+    give("", "1", R"(<data:mapping value="0"/><data:mapping value="1" name="on"/>)");
     edit.SetMappings(mappedParam());
     EXPECT_THAT(edit.cboBox.List(), ElementsAre("", "on"));
     EXPECT_THAT(messenger.errors(),
@@ -241,7 +241,7 @@ class ComboEditOfFloat : public ComboEditTest, public testing::WithParamInterfac
 TEST_P(ComboEditOfFloat, FindsAWholeNumberHoweverItIsWritten)
 {
     toolkit.localeSettings.decimal = GetParam();
-    load("1.0", "1", kEntries, "floatVal");
+    load("1.0", "1", kModes, "floatVal");
     EXPECT_EQ(edit.Text(), "on");
     EXPECT_EQ(edit.GetIndex("6.6"), 2);
     EXPECT_EQ(edit.GetIndex("0.5"), 0); // a tie goes to the even number

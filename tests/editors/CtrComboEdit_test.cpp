@@ -71,7 +71,7 @@ TEST_F(ComboEdit, AFixedEntryEndsTheEditing)
     for (const char* fixed : {"Not In Use", "nOT iN uSE", "Sensor not in use!", "Nicht in Gebrauch",
                               "NICHT IN GEBRAUCH", "Ei käytössä", "EI KÄYTÖSSÄ"}) {
         CtrComboEdit other{frame, {.Name = "other", .Tag = "ctr_mode"}};
-        give(attributes("1", "1"));
+        give("1", "1");
         other.SetMappings(mappedParam());
         translator.texts["off"] = fixed;
         other.Localize(translator);
@@ -107,7 +107,7 @@ TEST_F(ComboEdit, WritesATextValueAsItStands)
 
 TEST_F(ComboEdit, AnUnboundEditorWritesNothing)
 {
-    give(attributes("1", "1"));
+    give("1", "1");
     edit.SetMappings(mappedParam());
     edit.cboBox.choose(2);
     EXPECT_TRUE(edit.Modified());

@@ -140,12 +140,8 @@ TEST_F(DateEditData, StaysBoundToItsFirstParameter)
 TEST_F(DateEditData, DoesNothingForAnEmptyNode)
 {
     loadQuietly();
-    EXPECT_FALSE(edit.setOfflineData(nullptr));
-    EXPECT_FALSE(edit.setOnlineData(nullptr));
-    EXPECT_FALSE(edit.setImportData(nullptr));
+    expectThatEmptyNodesDoNothing();
     EXPECT_EQ(edit.Text(), "31.1.2020");
-    EXPECT_THAT(changes, IsEmpty());
-    EXPECT_THAT(messenger.calls, IsEmpty());
 }
 
 class DateEditWithout : public DateEditTest, public testing::WithParamInterface<const char*> {};
@@ -350,15 +346,7 @@ TEST_F(DateEditData, BooksOldAndNewAlsoWhenWrong)
 TEST_F(DateEditData, BooksByScopeAndNotWhileSilent)
 {
     load();
-    messenger.RequestChanges(kModifiedEditors);
-    messenger.RequestChanges(kAllEditors);
-    EXPECT_THAT(messenger.bookings, IsEmpty());
-    edit.setContextTag("group");
-    messenger.RequestChanges(kAllEditors);
-    EXPECT_EQ(messenger.bookings.size(), 1U);
-    edit.setSilent(true);
-    messenger.RequestChanges(kAllEditors);
-    EXPECT_EQ(messenger.bookings.size(), 1U);
+    expectBookingsByScopeAndNotWhileSilent();
 }
 
 TEST_F(DateEditData, BooksATimeAsATime)

@@ -71,7 +71,7 @@ TEST_F(OptionEditData, OutOfStepComesUpModifiedUnlessEmpty)
 
 TEST_F(OptionEditData, AValueMayBeGivenByName)
 {
-    load("auto", "1", kOptions, "stringVal");
+    load("auto", "1", kModes, "stringVal");
     EXPECT_EQ(edit.Selected(), "7");
     EXPECT_THAT(changes, ElementsAre("auto"));
 }
@@ -98,12 +98,8 @@ TEST_F(OptionEditData, StaysBoundToItsFirstParameter)
 TEST_F(OptionEditData, DoesNothingForAnEmptyNode)
 {
     loadQuietly();
-    EXPECT_FALSE(edit.setOfflineData(nullptr));
-    EXPECT_FALSE(edit.setOnlineData(nullptr));
-    EXPECT_FALSE(edit.setImportData(nullptr));
+    expectThatEmptyNodesDoNothing();
     EXPECT_EQ(edit.Selected(), "1");
-    EXPECT_THAT(changes, IsEmpty());
-    EXPECT_THAT(messenger.calls, IsEmpty());
 }
 
 class OptionEditWithout : public OptionEditTest, public testing::WithParamInterface<const char*> {};
@@ -131,7 +127,7 @@ TEST_F(OptionEditData, IsReadOnlyWhereTheAccessSaysNoWrite)
     for (const char* access : {"read", "", "none"}) {
         CtrOptionEdit other{frame, {.Name = "other", .Tag = "ctr_mode"}};
         other.SetMessenger(&messenger);
-        give("1", "0", kOptions, "integerVal", access);
+        give("1", "0", kModes, "integerVal", access);
         other.SetMappings(mappedParam());
         other.setOfflineData(parameter());
         EXPECT_TRUE(other.Locked()) << access;
@@ -152,8 +148,8 @@ TEST_F(OptionEditData, IsReadOnlyWhereTheAccessSaysNoWrite)
 
 TEST_F(OptionEditData, IsWritableWhereTheAccessSaysSoInAnyCase)
 {
-    load("1", "1", kOptions, "integerVal", "READ");
-    load("1", "1", kOptions, "integerVal", "reAdWrIteOffline");
+    load("1", "1", kModes, "integerVal", "READ");
+    load("1", "1", kModes, "integerVal", "reAdWrIteOffline");
     EXPECT_FALSE(edit.Locked());
     EXPECT_EQ(edit.frmOptions.BackColor, editorColors::kWhite);
     EXPECT_EQ(edit.Option(2).click(), UserDoor::done);
@@ -283,15 +279,7 @@ TEST_F(OptionEditData, BooksAnEditWithoutAnOriginal)
 TEST_F(OptionEditData, BooksByScopeAndNotWhileSilentOrWrong)
 {
     load("1");
-    messenger.RequestChanges(kModifiedEditors);
-    messenger.RequestChanges(kAllEditors);
-    EXPECT_THAT(messenger.bookings, IsEmpty());
-    edit.setContextTag("group");
-    messenger.RequestChanges(kAllEditors);
-    EXPECT_EQ(messenger.bookings.size(), 1U);
-    edit.setSilent(true);
-    messenger.RequestChanges(kAllEditors);
-    edit.setSilent(false);
+    expectBookingsByScopeAndNotWhileSilent();
     edit.setCorrect(false);
     messenger.RequestChanges(kAllEditors);
     EXPECT_EQ(messenger.bookings.size(), 1U);
@@ -325,7 +313,7 @@ TEST_F(OptionEditData, IsServedByAPage)
     const auto file = test::datafile(
         R"(<data:parameter name="valveMode_2" type="integerVal" value="1" access="readWrite" )"
         R"(synchronised="1"/>)",
-        "<data:mappedParam name=\"mode\">" + std::string(kOptions) + "</data:mappedParam>",
+        "<data:mappedParam name=\"mode\">" + std::string(kModes) + "</data:mappedParam>",
         R"(<data:requestGroup name="group"><data:includedParam name="valveMode_2"/>)"
         R"(</data:requestGroup>)");
     page.SetOfflineData(file);

@@ -265,7 +265,7 @@ TEST_F(OptionEditList, MapTextSearchesForTheValue)
 
 TEST_F(OptionEditList, MapTextRoundsAFloat)
 {
-    load("1.0", "1", kOptions, "floatVal");
+    load("1.0", "1", kModes, "floatVal");
     EXPECT_EQ(edit.Selected(), "1");
     EXPECT_EQ(edit.mapText("6.8"), "auto");
     EXPECT_EQ(edit.mapText("0.5"), "off"); // a tie goes to the even one
@@ -283,7 +283,7 @@ protected:
 
 TEST_F(OptionEditWithComma, MapTextReadsBothSeparators)
 {
-    load("7.0", "1", kOptions, "floatVal");
+    load("7.0", "1", kModes, "floatVal");
     EXPECT_EQ(edit.Selected(), "7");
     EXPECT_EQ(edit.mapText("1,0"), "on");
     EXPECT_EQ(edit.mapText("1.0"), "on");

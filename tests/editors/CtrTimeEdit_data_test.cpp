@@ -125,12 +125,8 @@ TEST_F(TimeEditData, AnEditIsFoundByTheNextLoad)
 TEST_F(TimeEditData, DoesNothingForAnEmptyNode)
 {
     loadQuietly();
-    EXPECT_FALSE(edit.setOfflineData(nullptr));
-    EXPECT_FALSE(edit.setOnlineData(nullptr));
-    EXPECT_FALSE(edit.setImportData(nullptr));
+    expectThatEmptyNodesDoNothing();
     EXPECT_EQ(edit.Text(), "1.5");
-    EXPECT_THAT(changes, IsEmpty());
-    EXPECT_THAT(messenger.actions(), IsEmpty());
 }
 
 class TimeEditWithout : public TimeEditTest, public testing::WithParamInterface<const char*> {};
@@ -383,15 +379,7 @@ TEST_F(TimeEditData, BooksOldAndNew)
 TEST_F(TimeEditData, BooksByScopeAndNotWhileSilentOrWrong)
 {
     load();
-    messenger.RequestChanges(kModifiedEditors);
-    messenger.RequestChanges(kAllEditors);
-    EXPECT_THAT(messenger.bookings, IsEmpty());
-    edit.setContextTag("group");
-    messenger.RequestChanges(kAllEditors);
-    EXPECT_EQ(messenger.bookings.size(), 1U);
-    edit.setSilent(true);
-    messenger.RequestChanges(kAllEditors);
-    edit.setSilent(false);
+    expectBookingsByScopeAndNotWhileSilent();
     type(2, "x");
     messenger.RequestChanges(kAllEditors);
     messenger.RequestChanges(kModifiedEditors);

@@ -11,8 +11,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <map>
-
 namespace quill::test {
 
 /// A text editor "ctr_travel" on a page whose `Tag` is "travel", with a host that listens.
@@ -27,22 +25,18 @@ protected:
         converter.add("bar", "kPa", 100);
     }
 
-    /// Attributes of a parameter; those of a float between 0 and 100 where a test says nothing.
-    using Attributes = std::map<std::string, std::string>;
-    static std::string parameterXml(Attributes given)
+    /// A parameter that is a float between 0 and 100 where a test says nothing.
+    static std::string parameterXml(const Attributes& given)
     {
-        const Attributes usual = {
-            {"name", "travel"}, {"type", "floatVal"},    {"value", "5"},
-            {"unit", "bar"},    {"decimals", "1"},       {"minVal", "0"},
-            {"maxVal", "100"},  {"access", "readWrite"}, {"synchronised", "1"}};
-        given.insert(usual.begin(), usual.end());
-        std::string xml = "<data:parameter";
-        for (const auto& [name, value] : given) {
-            if (value != "-") { // "-" leaves an attribute out
-                xml += " " + name + "=\"" + value + "\"";
-            }
-        }
-        return xml + "/>";
+        return test::parameterXml(given, {{"name", "travel"},
+                                          {"type", "floatVal"},
+                                          {"value", "5"},
+                                          {"unit", "bar"},
+                                          {"decimals", "1"},
+                                          {"minVal", "0"},
+                                          {"maxVal", "100"},
+                                          {"access", "readWrite"},
+                                          {"synchronised", "1"}});
     }
     /// Loads a datafile with this one parameter, to which the editor is bound anew.
     void load(const Attributes& given = {})

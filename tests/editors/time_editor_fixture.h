@@ -1,65 +1,36 @@
 #pragma once
 
+#include "editor_fixture.h"
 #include "editors/CtrTimeEdit.h"
-#include "support/recording_messenger.h"
-#include "support/recording_translator.h"
 #include "support/simple_converter.h"
-#include "support/test_documents.h"
-#include "support/test_page.h"
-#include "support/toolkit_scope.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <map>
-#include <string>
-#include <vector>
 
 namespace quill::test {
 
 /// One time editor on a page, with a datafile and a host that converts "s", "min" and "h".
-class TimeEditTest : public testing::Test {
+class TimeEditTest : public EditorTest<CtrTimeEdit> {
 protected:
-    explicit TimeEditTest(const std::string& decimal = ".") : toolkit(decimal)
+    explicit TimeEditTest(const std::string& decimal = ".") : EditorTest("delay", decimal)
     {
         converter.add("s", "min", 1.0 / 60);
         converter.add("s", "h", 1.0 / 3600);
         converter.add("min", "h", 1.0 / 60);
         messenger.converter = &converter;
-        edit.SetMessenger(&messenger);
-        forget();
     }
 
-    ToolkitScope        toolkit;
-    RecordingMessenger  messenger;
-    RecordingTranslator translator;
-    SimpleConverter     converter;
-    platform::Control   form;
-    platform::Frame     frame{form, {.Name = "frame", .Tag = "page"}};
-    CtrTimeEdit         edit{frame, {.Name = "delay", .Tag = "ctr_delay"}};
+    SimpleConverter converter;
 
-    IXMLDOMDocument          datafile;
-    IXMLDOMDocument          response;
-    std::vector<std::string> changes;
-    platform::Subscription   onChange =
-        edit.Change.subscribe([this](const std::string& text) { changes.push_back(text); });
-
-    /// Attributes of a parameter; those of 1.5 minutes in one decimal where a test says nothing.
-    using Attributes = std::map<std::string, std::string>;
-    void give(Attributes given = {})
+    /// A parameter of 1.5 minutes in one decimal where a test says nothing.
+    void give(const Attributes& given = {})
     {
-        const Attributes usual = {
-            {"name", "delay"},  {"type", "floatVal"},    {"value", "1.5"},
-            {"unit", "min"},    {"decimals", "1"},       {"minVal", "0"},
-            {"maxVal", "3000"}, {"access", "readWrite"}, {"synchronised", "1"}};
-        given.insert(usual.begin(), usual.end());
-        std::string xml = "<data:parameter";
-        for (const auto& [name, value] : given) {
-            if (value != "-") { // "-" leaves an attribute out
-                xml += " " + name + "=\"" + value + "\"";
-            }
-        }
-        datafile = test::datafile(xml + "/>");
+        datafile = test::datafile(parameterXml(given, {{"name", "delay"},
+                                                       {"type", "floatVal"},
+                                                       {"value", "1.5"},
+                                                       {"unit", "min"},
+                                                       {"decimals", "1"},
+                                                       {"minVal", "0"},
+                                                       {"maxVal", "3000"},
+                                                       {"access", "readWrite"},
+                                                       {"synchronised", "1"}}));
     }
     void load(const Attributes& given = {})
     {
@@ -72,24 +43,10 @@ protected:
         load(given);
         forget();
     }
-    void forget()
-    {
-        messenger.clear();
-        changes.clear();
-    }
-    [[nodiscard]] IXMLDOMNode parameter() const
-    {
-        return documents::findParameter(datafile, "delay");
-    }
-    [[nodiscard]] std::string attribute(const char* name) const
-    {
-        return documents::attributeText(parameter(), name);
-    }
     [[nodiscard]] IXMLDOMNode online(const std::string& value, const std::string& unit = "min",
                                      const std::string& type = "floatVal")
     {
-        response = test::okResponse("group", test::item("delay", unit, type, value));
-        return documents::findItem(response, "delay");
+        return itemOf(value, unit, type);
     }
     [[nodiscard]] std::vector<std::string> boxes() const
     {
@@ -106,10 +63,6 @@ protected:
     [[nodiscard]] std::vector<std::string> states() const
     {
         return messenger.callsTo("SetParameterState");
-    }
-    static std::string state(const std::string& name)
-    {
-        return "SetParameterState(page, " + name + ")";
     }
 };
 

@@ -1,6 +1,6 @@
 #include "framework/documents.h"
 
-#include "platform/failure.h"
+#include "support/failure_of.h"
 #include "support/test_documents.h"
 
 #include <gtest/gtest.h>
@@ -15,18 +15,7 @@ namespace {
 using documents::IXMLDOMDocument;
 using documents::IXMLDOMNode;
 using platform::NodeType;
-
-/// The number of the failure that a call raises, 0 for none.
-template <class F>
-int failureOf(F&& call)
-{
-    try {
-        std::forward<F>(call)();
-    } catch (const platform::Failure& failure) {
-        return failure.number();
-    }
-    return 0;
-}
+using test::failureOf;
 
 constexpr const char* kListingPath =
     "./data:dtm/data:requestGroups/data:requestGroup/data:includedParam";

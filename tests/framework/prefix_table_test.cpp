@@ -99,7 +99,11 @@ TEST(PrefixTable, ItAnswersAsASearchFromTheFrontWould)
         for (std::string& each : texts) {
             each = (round % 2 == 0 ? "" : "common") + text(round % 3 == 0 ? 20 : 6);
         }
-        const PrefixTable table{texts};
+        TextList list;
+        for (const std::string& each : texts) {
+            list.add(each);
+        }
+        const PrefixTable table{list};
         for (int question = 0; question < 30; ++question) {
             const std::string prefix = (round % 2 == 0 ? "" : "common") + text(5);
             const auto        answer = firstOneByOne(texts, prefix);

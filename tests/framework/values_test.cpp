@@ -1,6 +1,6 @@
 #include "framework/values.h"
 
-#include "platform/failure.h"
+#include "support/failure_of.h"
 #include "support/toolkit_scope.h"
 
 #include <gtest/gtest.h>
@@ -12,20 +12,8 @@
 namespace quill {
 namespace {
 
-using platform::Failure;
+using test::failureOf;
 using test::ToolkitScope;
-
-/// The number of the failure that a call raises, 0 for none.
-template <class F>
-int failureOf(F&& call)
-{
-    try {
-        std::forward<F>(call)();
-    } catch (const Failure& failure) {
-        return failure.number();
-    }
-    return 0;
-}
 
 constexpr double kInfinity = std::numeric_limits<double>::infinity();
 constexpr double kNaN      = std::numeric_limits<double>::quiet_NaN();

@@ -2,12 +2,15 @@
 #include "platform/toolkit.h"
 #include "probe/host.h"
 #include "probe_run.h"
+#include "support/failure_of.h"
 
 #include <filesystem>
 
 namespace quill::probe::test {
 
 namespace {
+
+using quill::test::failureOf;
 
 /// A host on its own, spoken to as a control does.
 class HostTest : public testing::Test {
@@ -19,16 +22,6 @@ protected:
     Output                   output{[this](const std::string& line) { lines.push_back(line); }};
     Host host{output, [](const platform::Widget& widget) { return widget.Name; }};
 };
-
-int failureOf(const std::function<void()>& call)
-{
-    try {
-        call();
-    } catch (const platform::Failure& failure) {
-        return failure.number();
-    }
-    return 0;
-}
 
 } // namespace
 

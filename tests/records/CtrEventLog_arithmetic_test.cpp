@@ -262,6 +262,18 @@ TEST_F(EventLogTimesTest, ATimeThatBeginsWithTwoZerosSaysNothing)
     EXPECT_FALSE(eventLog::isKnown("00.00.0000 00:00:00"));
 }
 
+TEST_F(EventLogTimesTest, TheTotalTimeHasTwoDecimalsAndTheTimeOfAnEventFour)
+{
+    EXPECT_EQ(eventLog::operationTimeText("1234567890.5"), "1234567890.50");
+    EXPECT_EQ(eventLog::operationTimeText(".25"), "0.25");
+    EXPECT_EQ(eventLog::eventTimeText("12.34565"), "12.3457");
+    EXPECT_EQ(eventLog::eventTimeText("0."), "0.0000");
+    EXPECT_EQ(failureOf([] { (void)eventLog::operationTimeText("soon"); }), kTypeMismatch);
+    EXPECT_EQ(failureOf([] { (void)eventLog::eventTimeText(""); }), kTypeMismatch);
+    toolkit.localeSettings.decimal = ",";
+    EXPECT_EQ(eventLog::eventTimeText("12.5"), "12,5000");
+}
+
 TEST_F(EventLogTimesTest, AStampCountsBackFromTheReference)
 {
     EXPECT_EQ(times.stamp("1", 1), "") << "no reference";

@@ -14,6 +14,14 @@ constexpr int kKeyC = 67;
 
 class EventLogFormTest : public EventLogTest {
 protected:
+    [[nodiscard]] std::vector<std::int32_t> widths() const
+    {
+        std::vector<std::int32_t> found;
+        for (const auto& header : view.lsvEventLog.ColumnHeaders()) {
+            found.push_back(header.Width);
+        }
+        return found;
+    }
     void expectOperationTimeInLine()
     {
         std::int32_t right = view.lblTitle[0].Left + view.lblTitle[0].Width;
@@ -64,13 +72,6 @@ TEST_F(EventLogFormTest, ColumnsShareTheWidthOfTheList)
 {
     view.resize(10360, 6000);
     ASSERT_EQ(view.lsvEventLog.Width.get(), 10000);
-    const auto widths = [&] {
-        std::vector<std::int32_t> found;
-        for (const auto& header : view.lsvEventLog.ColumnHeaders()) {
-            found.push_back(header.Width);
-        }
-        return found;
-    };
     EXPECT_THAT(widths(), ElementsAre(1500, 4600, 1200, 2700, 0, 0));
     view.HideClasses(true);
     EXPECT_TRUE(view.classesHidden());
@@ -79,6 +80,18 @@ TEST_F(EventLogFormTest, ColumnsShareTheWidthOfTheList)
     EXPECT_THAT(widths(), ElementsAre(0, 6101, 1200, 2700, 0, 0));
     view.HideClasses(false);
     EXPECT_EQ(view.lsvEventLog.ColumnHeaders()[0].Width, 1500);
+}
+
+TEST_F(EventLogFormTest, AnotherLanguageLeavesTheColumnsAsWideAsTheyAre)
+{
+    readHart();
+    view.lsvEventLog.setColumnWidth(4, 2500);
+    view.lsvEventLog.select({2});
+    receiveMore({{0, "more", "class", "1"}});
+    const auto before = widths();
+    ASSERT_EQ(before[1], view.lsvEventLog.Width - before[0] - before[2] - 2500 - 260);
+    view.Localize(translator);
+    EXPECT_EQ(widths(), before);
 }
 
 TEST_F(EventLogFormTest, AFreshViewIsLaidOutBeforeItIsResized)
@@ -147,6 +160,18 @@ TEST_F(EventLogFormTest, AnOperationTimeFromDeviceOrDatafileStandsInLineToo)
                             R"(<data:includedParam name="eventLogTotalOperationTime"/>)"
                             "</data:requestGroup>"));
     ASSERT_EQ(view.lblOperationTime[0].Caption.get(), "12345678.00");
+    expectOperationTimeInLine();
+}
+
+TEST_F(EventLogFormTest, AUnitWithoutAValueIsSeenWhole)
+{
+    view.UseHART();
+    view.SetOnlineData(okResponse("eventLogOperationTime",
+                                  item("eventLogTotalOperationTime", "hours", "floatVal", "")));
+    ASSERT_EQ(view.lblOperationTime[1].Caption.get(), "hours");
+    expectOperationTimeInLine();
+    view.SetOfflineData(log("XH", parameter("totalOperationTime", "00", "operating hours")));
+    ASSERT_EQ(view.lblOperationTime[1].Caption.get(), "operating hours");
     expectOperationTimeInLine();
 }
 

@@ -175,6 +175,22 @@ TEST_F(CtrSettingsTest, ALabelWithoutATagKeepsItsTextWhereThereIsNoTranslation)
     EXPECT_EQ(view.lblSelectUnits.Caption.get(), "Select units");
 }
 
+TEST_F(CtrSettingsTest, ATextWithoutATranslationIsTheOneOfTheFormOrTheKey)
+{
+    for (const char* key : {"settings", "apply", "statusNAMUR", "temperature"}) {
+        translator.texts[key] = std::string("Err:") + key;
+    }
+    show();
+    EXPECT_EQ(view.lblTitle.Caption.get(), "Settings");
+    EXPECT_EQ(view.cmdApply.Caption.get(), "Apply");
+    EXPECT_THAT(view.cboStatusClassification.List(),
+                ElementsAre("T-statusSeverity", "statusNAMUR"));
+    EXPECT_EQ(view.scgUnits.cell(2, 1).Text, "temperature");
+    view.scgUnits.setCellText(2, 1, {});
+    view.Localize(translator);
+    EXPECT_EQ(view.scgUnits.cell(2, 1).Text, "temperature");
+}
+
 TEST_F(CtrSettingsTest, AClassificationWithoutATextKeepsItsRow)
 {
     translator.failingKey = "statusSeverity";
@@ -337,6 +353,27 @@ TEST_F(CtrSettingsTest, CancelPutsLanguageAndUnitsBackButNotTheClassification)
     EXPECT_THAT(page.heard, IsEmpty());
     view.Localize(translator);
     EXPECT_EQ(view.cboStatusClassification.ListIndex(), 0);
+}
+
+TEST_F(CtrSettingsTest, CancelDropsAUnitThatIsStillBeingEntered)
+{
+    show();
+    view.scgUnits.clickCell(1, 2);
+    ASSERT_EQ(view.scgUnits.typeCell(1, 2, "psi"), platform::UserDoor::done);
+    view.cmdCancel.click();
+    EXPECT_EQ(view.scgUnits.EditRow(), 0);
+    EXPECT_THAT(shownUnits(), ElementsAre("bar", ""));
+}
+
+TEST_F(CtrSettingsTest, TheButtonsHaveThePictureOfThePanelInEveryState)
+{
+    for (const platform::CommandButton* button :
+         {&view.cmdSI, &view.cmdUS, &view.cmdOK, &view.cmdCancel, &view.cmdApply}) {
+        EXPECT_EQ(button->Picture.get(), view.ctrTBLaunchedPanel.imlPanel.first());
+    }
+    show();
+    EXPECT_EQ(view.cmdApply.DisabledPicture, view.ctrTBLaunchedPanel.imlPanel.first());
+    EXPECT_EQ(view.cmdApply.DownPicture, view.ctrTBLaunchedPanel.imlPanel.first());
 }
 
 TEST_F(CtrSettingsTest, EscapeCancels)

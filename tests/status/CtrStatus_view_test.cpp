@@ -356,5 +356,20 @@ TEST_F(CtrStatusView, ResizingWithoutAMessengerIsSilent)
     EXPECT_THAT(toolkit.debugLines, IsEmpty());
 }
 
+TEST_F(CtrStatusView, AFailingLayoutIsReportedToTheHostAndDroppedWhereThereIsNone)
+{
+    const auto fails = view.frmViews.Changed.subscribe(
+        [](const platform::WidgetChange&) { throw platform::failure(platform::kInvalidCall); });
+    view.SetMessenger(&messenger);
+    view.Width = 8000;
+    EXPECT_THAT(messenger.errors(),
+                ElementsAre(StartsWith("ReportError(CtrStatus UserControl_Resize: , 5, ")));
+    view.SetMessenger(nullptr);
+    messenger.clear();
+    view.Width = 9000;
+    EXPECT_THAT(messenger.errors(), IsEmpty());
+    EXPECT_THAT(toolkit.debugLines, IsEmpty());
+}
+
 } // namespace
 } // namespace quill::test

@@ -252,17 +252,26 @@ TEST_F(StatusConfigurationTest, ABitThatAByteDoesNotHaveIsReportedAndNotWritten)
     EXPECT_EQ(inFile("statusMask1", "synchronised"), "1");
 }
 
-TEST_F(StatusConfigurationTest, AParameterWithoutAValueIsReportedAndNotWritten)
+TEST_F(StatusConfigurationTest, AParameterWithoutAValueIsReportedAndTakenAsAnEmptyMask)
 {
     addBits(1);
     setMasks({"00"});
     file.selectSingleNode("//data:parameter").get_attributes().removeNamedItem("value");
     messenger.clear();
-    masks.SetEnabled("s0", true);
+    masks.SetEnabled("s0", false);
     EXPECT_THAT(messenger.errors(),
                 ElementsAre(HasSubstr("ClsStatusConfiguration StoreBitForExport: , 91,")));
-    EXPECT_EQ(inFile("statusMask1"), "(none)");
-    EXPECT_EQ(inFile("statusMask1", "synchronised"), "1");
+    EXPECT_EQ(inFile("statusMask1"), "FE");
+    EXPECT_EQ(inFile("statusMask1", "synchronised"), "0");
+}
+
+TEST_F(StatusConfigurationTest, AnEmptyMaskCountsAsSwitchedOn)
+{
+    addBits(1);
+    setMasks({"00"});
+    file.selectSingleNode("//data:parameter/@value").put_text("");
+    masks.SetEnabled("s0", false);
+    EXPECT_EQ(inFile("statusMask1"), "FE");
 }
 
 TEST_F(StatusConfigurationTest, AByteThatIsNotHexadecimalIsReportedAndReplaced)

@@ -1,25 +1,68 @@
 #include "status/status_masks.h"
 
-#include "platform/failure.h"
+#include "framework/documents.h"
+#include "support/failure_of.h"
+#include "support/toolkit_scope.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
 #include <climits>
-#include <functional>
+#include <vector>
 
 namespace quill::statusMasks {
 namespace {
 
-/// The number of the failure that a call raises, 0 for none.
-int failureOf(const std::function<void()>& call)
-{
-    try {
-        call();
-    } catch (const platform::Failure& failure) {
-        return failure.number();
+using test::failureOf;
+using testing::ElementsAre;
+
+/// Where a condition with these attributes stands, and the numbers of the failures on the way.
+struct Reading {
+    explicit Reading(const std::string& attributes)
+    {
+        const Steps step{[this](int number, const std::string&) { failures.push_back(number); }};
+        position = readPosition(
+            step, documents::openText("<status " + attributes + "/>").get_documentElement());
     }
-    return 0;
+
+    test::ToolkitScope toolkit;
+    Position           position;
+    std::vector<int>   failures;
+};
+
+TEST(StatusMasks, AConditionTellsItsByteAndItsBit)
+{
+    const Reading read{R"(maskByte="11" maskBit="7")"};
+    EXPECT_EQ(read.position.byte, 11);
+    EXPECT_EQ(read.position.bit, 7);
+    EXPECT_THAT(read.failures, ElementsAre());
+}
+
+TEST(StatusMasks, WhatIsMissingOrNoNumberIsNone)
+{
+    EXPECT_EQ(Reading{R"(maskBit="1")"}.position.byte, kNone);
+    EXPECT_EQ(Reading{R"(maskByte="1")"}.position.bit, kNone);
+    EXPECT_EQ(Reading{R"(maskByte="" maskBit="x")"}.position.byte, kNone);
+    EXPECT_EQ(Reading{R"(maskByte="" maskBit="x")"}.position.bit, kNone);
+}
+
+TEST(StatusMasks, ANumberThatIsTooLargeFailsAloneAndIsNone)
+{
+    const Reading read{R"(maskByte="40000" maskBit="2")"};
+    EXPECT_EQ(read.position.byte, kNone);
+    EXPECT_EQ(read.position.bit, 2);
+    EXPECT_THAT(read.failures, ElementsAre(platform::kOverflow));
+}
+
+TEST(StatusMasks, TheDigitAtTheEndOfANameIsThePart)
+{
+    const test::ToolkitScope toolkit;
+    EXPECT_EQ(partInName("statusMask3"), 3);
+    EXPECT_EQ(partInName("statusMask10"), 0);
+    EXPECT_EQ(partInName("statusMask"), std::nullopt);
+    EXPECT_EQ(partInName("1x"), std::nullopt);
+    EXPECT_EQ(partInName("statusMask1 "), std::nullopt);
+    EXPECT_EQ(partInName(""), std::nullopt);
 }
 
 TEST(StatusMasks, HalfTheDigitsAreBytesATieGoesToTheEvenNumber)
@@ -106,6 +149,18 @@ TEST(StatusMasks, WhatIsNotHexadecimalIsATypeMismatch)
         EXPECT_EQ(failureOf([&] { std::ignore = getByte(mask, 0); }), platform::kTypeMismatch)
             << mask;
     }
+}
+
+TEST(StatusMasks, ReadInAStepWhatCannotBeReadIsZeroAndAPlaceThatCannotBeIsNone)
+{
+    std::vector<int> failures;
+    const Steps      step{[&](int number, const std::string&) { failures.push_back(number); }};
+    EXPECT_EQ(readByte(step, "7F", 0), 0x7f);
+    EXPECT_EQ(readByte(step, "7F", 1), 0xff);
+    EXPECT_THAT(failures, ElementsAre());
+    EXPECT_EQ(readByte(step, "GG", 0), 0);
+    EXPECT_EQ(readByte(step, "7F", -1), std::nullopt);
+    EXPECT_THAT(failures, ElementsAre(platform::kTypeMismatch, platform::kInvalidCall));
 }
 
 TEST(StatusMasks, PlacesCountCharactersAndNotBytesOfTheEncoding)

@@ -1,30 +1,25 @@
 #pragma once
 
 #include "framework/default_messenger.h"
-#include "platform/failure.h"
+#include "support/call_log.h"
 
-#include <algorithm>
-#include <functional>
 #include <map>
-#include <sstream>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace quill::test {
 
-/// A host that writes down every call as one line, `SetParameterState(ctr_speed, edited)`, and
-/// answers what a test has set. What `DefaultMessenger` does for real (`RequestChanges`,
-/// `BookChange`) is done here too.
-class RecordingMessenger : public DefaultMessenger {
+/// A host that writes down every call and answers what a test has set. What `DefaultMessenger` does
+/// for real (`RequestChanges`, `BookChange`) is done here too.
+class RecordingMessenger : public DefaultMessenger, public CallLog {
 public:
     struct Booking {
         IQornDataEditor* editor = nullptr;
         std::string      tag, label, oldText, newText, extra, type, contextTag;
     };
 
-    // What was heard, in order.
-    std::vector<std::string> calls;
-    std::vector<Booking>     bookings;
+    std::vector<Booking> bookings;
 
     // What is answered.
     AddressService*                    addressService = nullptr;
@@ -46,58 +41,17 @@ public:
     bool                               configurationChanged = false;
     std::int32_t                       answer               = kPositiveAnswer;
 
-    /// Is called after a call was written down and before it is answered.
-    std::function<void(const std::string& call)> onCall;
-
-    /// From now on the operation throws this failure; it is still written down.
-    void failOn(const std::string& operation, int number = platform::kInvalidCall)
-    {
-        mFailing[operation] = number;
-    }
-    void stopFailing() { mFailing.clear(); }
-
     void clear()
     {
         calls.clear();
         bookings.clear();
     }
-    /// The lines of one operation.
-    [[nodiscard]] std::vector<std::string> callsTo(const std::string& operation) const
-    {
-        std::vector<std::string> found;
-        std::copy_if(calls.begin(), calls.end(), std::back_inserter(found),
-                     [&](const std::string& call) { return call.starts_with(operation + "("); });
-        return found;
-    }
-    [[nodiscard]] bool wasCalled(const std::string& operation) const
-    {
-        return !callsTo(operation).empty();
-    }
-    /// All lines but the log and the questions that change nothing (`Get...`, `Is...`, `Has...`).
-    [[nodiscard]] std::vector<std::string> actions() const
-    {
-        std::vector<std::string> found;
-        std::copy_if(calls.begin(), calls.end(), std::back_inserter(found),
-                     [](const std::string& call) {
-                         return !call.starts_with("Get") && !call.starts_with("Is") &&
-                                !call.starts_with("Has") && !call.starts_with("WriteLog(");
-                     });
-        return found;
-    }
-    /// The lines `ReportError(where, number, description)`.
-    [[nodiscard]] std::vector<std::string> errors() const { return callsTo("ReportError"); }
-
     AddressService* GetAddressService() override
     {
-        heard("GetAddressService");
-        return addressService;
+        return answered(addressService, "GetAddressService");
     }
-    UnitConverter* GetUnitConverter() override
-    {
-        heard("GetUnitConverter");
-        return converter;
-    }
-    std::string GetHostDocument(const std::string& name) override
+    UnitConverter* GetUnitConverter() override { return answered(converter, "GetUnitConverter"); }
+    std::string    GetHostDocument(const std::string& name) override
     {
         heard("GetHostDocument", name);
         return hostDocuments[name];
@@ -116,30 +70,22 @@ public:
     }
     bool SetMonitoringActive(bool active) override
     {
-        heard("SetMonitoringActive", active);
-        return accepts;
+        return answered(accepts, "SetMonitoringActive", active);
     }
-    std::string GetDatasetXml() override
+    std::string GetDatasetXml() override { return answered(datasetXml, "GetDatasetXml"); }
+    bool        ExecuteCommunicationRequest(const std::string& xml, const std::string& progressKey,
+                                            std::int16_t first, std::int16_t second) override
     {
-        heard("GetDatasetXml");
-        return datasetXml;
-    }
-    bool ExecuteCommunicationRequest(const std::string& xml, const std::string& progressKey,
-                                     std::int16_t first, std::int16_t second) override
-    {
-        heard("ExecuteCommunicationRequest", xml, progressKey, first, second);
-        return accepts;
+        return answered(accepts, "ExecuteCommunicationRequest", xml, progressKey, first, second);
     }
     bool ExecuteNamedRequest(const std::string& name, const std::string& progressKey,
                              std::int16_t first, std::int16_t second) override
     {
-        heard("ExecuteNamedRequest", name, progressKey, first, second);
-        return accepts;
+        return answered(accepts, "ExecuteNamedRequest", name, progressKey, first, second);
     }
     std::int32_t GetCommunicationMode() override
     {
-        heard("GetCommunicationMode");
-        return communicationMode;
+        return answered(communicationMode, "GetCommunicationMode");
     }
     void SetParameterState(const std::string& name, const std::string& state) override
     {
@@ -147,50 +93,23 @@ public:
     }
     IXMLDOMDocument GetDeviceTypeInfo() override
     {
-        heard("GetDeviceTypeInfo");
-        return deviceTypeInfo;
+        return answered(deviceTypeInfo, "GetDeviceTypeInfo");
     }
     ReportPrinter* GetReportPrinter() override
     {
-        heard("GetReportPrinter");
-        return reportPrinter;
+        return answered(reportPrinter, "GetReportPrinter");
     }
-    std::string GetInstallPath() override
-    {
-        heard("GetInstallPath");
-        return installPath;
-    }
+    std::string GetInstallPath() override { return answered(installPath, "GetInstallPath"); }
     std::optional<std::string> GetStoreName() override
     {
-        heard("GetStoreName");
-        return storeName;
+        return answered(storeName, "GetStoreName");
     }
-    std::string GetWorkPath() override
-    {
-        heard("GetWorkPath");
-        return workPath;
-    }
-    std::string GetUserDataPath() override
-    {
-        heard("GetUserDataPath");
-        return userDataPath;
-    }
-    std::int16_t GetUserLevel() override
-    {
-        heard("GetUserLevel");
-        return userLevel;
-    }
-    bool IsErrorDialogEnabled() override
-    {
-        heard("IsErrorDialogEnabled");
-        return errorDialog;
-    }
-    Translator* GetTranslator() override
-    {
-        heard("GetTranslator");
-        return translator;
-    }
-    void RequestChanges(std::int16_t scope) override
+    std::string  GetWorkPath() override { return answered(workPath, "GetWorkPath"); }
+    std::string  GetUserDataPath() override { return answered(userDataPath, "GetUserDataPath"); }
+    std::int16_t GetUserLevel() override { return answered(userLevel, "GetUserLevel"); }
+    bool IsErrorDialogEnabled() override { return answered(errorDialog, "IsErrorDialogEnabled"); }
+    Translator* GetTranslator() override { return answered(translator, "GetTranslator"); }
+    void        RequestChanges(std::int16_t scope) override
     {
         heard("RequestChanges", scope);
         DefaultMessenger::RequestChanges(scope);
@@ -206,18 +125,12 @@ public:
     }
     bool RestoreDataset(const std::string& xml) override
     {
-        heard("RestoreDataset", xml);
-        return accepts;
+        return answered(accepts, "RestoreDataset", xml);
     }
-    bool GetDialogsAllowed() override
-    {
-        heard("GetDialogsAllowed");
-        return dialogsAllowed;
-    }
+    bool GetDialogsAllowed() override { return answered(dialogsAllowed, "GetDialogsAllowed"); }
     std::int16_t GetStatusClassification() override
     {
-        heard("GetStatusClassification");
-        return classification;
+        return answered(classification, "GetStatusClassification");
     }
     void SetFixedStatusClassification(std::int16_t fixed) override
     {
@@ -229,13 +142,11 @@ public:
     }
     bool IsStatusClassificationFixed() override
     {
-        heard("IsStatusClassificationFixed");
-        return classificationFixed;
+        return answered(classificationFixed, "IsStatusClassificationFixed");
     }
     bool HasConfigurationChangedSign() override
     {
-        heard("HasConfigurationChangedSign");
-        return configurationChanged;
+        return answered(configurationChanged, "HasConfigurationChangedSign");
     }
     void SetDownloadPhase(std::int16_t phase) override { heard("SetDownloadPhase", phase); }
     void SetConfigurationChanged(const std::string& value) override
@@ -255,8 +166,7 @@ public:
     void         RefreshData() override { heard("RefreshData"); }
     std::int32_t AskQuestion(const std::string& titleKey, const std::string& questionKey) override
     {
-        heard("AskQuestion", titleKey, questionKey);
-        return answer;
+        return answered(answer, "AskQuestion", titleKey, questionKey);
     }
     void ReportErrorObject(const std::string& where, std::int32_t number,
                            const std::string& description) override
@@ -276,26 +186,6 @@ public:
     {
         heard("ReportProblem", text, mode);
     }
-
-private:
-    template <class... Args>
-    void heard(const std::string& operation, const Args&... args)
-    {
-        std::ostringstream line;
-        line << std::boolalpha << operation << '(';
-        [[maybe_unused]] const char* separator = "";
-        ((line << separator << args, separator = ", "), ...);
-        line << ')';
-        calls.push_back(line.str());
-        if (onCall) {
-            onCall(line.str());
-        }
-        if (const auto found = mFailing.find(operation); found != mFailing.end()) {
-            throw platform::failure(found->second);
-        }
-    }
-
-    std::map<std::string, int> mFailing;
 };
 
 } // namespace quill::test

@@ -2,9 +2,27 @@
 
 #include "framework/documents.h"
 
+#include <map>
 #include <string>
 
 namespace quill::test {
+
+/// Attributes of an element by name.
+using Attributes = std::map<std::string, std::string>;
+
+/// `<data:parameter .../>` with these attributes, and the usual ones that they do not name. The
+/// value "-" leaves an attribute out.
+inline std::string parameterXml(Attributes given, const Attributes& usual)
+{
+    given.insert(usual.begin(), usual.end());
+    std::string xml = "<data:parameter";
+    for (const auto& [name, value] : given) {
+        if (value != "-") {
+            xml += " " + name + "=\"" + value + "\"";
+        }
+    }
+    return xml + "/>";
+}
 
 /// A datafile out of its parts: `<data:parameter .../>`, `<data:mappedParam .../>` and
 /// `<data:requestGroup .../>` elements as text.

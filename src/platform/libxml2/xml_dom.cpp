@@ -245,16 +245,14 @@ IXMLDOMNode childElement(const IXMLDOMNode& element, std::string_view namespaceU
     return {};
 }
 
-std::vector<IXMLDOMNode> childElements(const IXMLDOMNode& element, std::string_view namespaceURI,
-                                       std::string_view name)
+void visitChildElements(const IXMLDOMNode& element, std::string_view namespaceURI,
+                        std::string_view name, const std::function<void(const IXMLDOMNode&)>& visit)
 {
-    std::vector<IXMLDOMNode> found;
     for (xmlNode* child = firstBelow(element); child != nullptr; child = child->next) {
         if (hasName(child, namespaceURI, name)) {
-            found.push_back(sibling(*element.ref(), child));
+            visit(sibling(*element.ref(), child));
         }
     }
-    return found;
 }
 
 } // namespace quill::platform

@@ -238,6 +238,23 @@ void fetch(DocumentState& target, xmlNode* node, DocumentState& source)
     }
 }
 
+/// Moves a node in front of `behind`, or to the end for none.
+void moveIn(const NodeRef& parent, const NodeRef& moved, xmlNode* behind)
+{
+    // The handle goes over to the new document; this keeps the old one until all is done.
+    const auto source = moved.document;
+    fetch(*parent.document, moved.node, *source);
+    detail::linkChild(parent.node, moved.node, behind);
+    parent.document->place(moved.node);
+}
+
+void requireIsChild(const NodeRef& parent, const NodeRef& child, const char* otherwise)
+{
+    if (isAttribute(child.node) || child.node->parent != parent.node) {
+        refuse(otherwise);
+    }
+}
+
 } // namespace
 
 void IXMLDOMNode::put_text(std::string_view text) const
@@ -280,11 +297,7 @@ IXMLDOMNode IXMLDOMNode::appendChild(const IXMLDOMNode& child) const
     NodeRef& parent = reach(mRef);
     NodeRef& moved  = reach(child.ref());
     requireChild(parent.node, moved.node, nullptr);
-    // The handle goes over to the new document; this keeps the old one until all is done.
-    const auto source = moved.document;
-    fetch(*parent.document, moved.node, *source);
-    detail::linkChild(parent.node, moved.node);
-    parent.document->place(moved.node);
+    moveIn(parent, moved, nullptr);
     return child;
 }
 
@@ -293,17 +306,11 @@ IXMLDOMNode IXMLDOMNode::insertBefore(const IXMLDOMNode& child, const IXMLDOMNod
     NodeRef& parent = reach(mRef);
     NodeRef& moved  = reach(child.ref());
     NodeRef& behind = reach(before.ref());
-    if (isAttribute(behind.node) || behind.node->parent != parent.node) {
-        refuse("The node to insert in front of is not a child of this node.");
-    }
+    requireIsChild(parent, behind, "The node to insert in front of is not a child of this node.");
     requireChild(parent.node, moved.node, nullptr);
-    if (moved.node == behind.node) {
-        return child;
+    if (moved.node != behind.node) {
+        moveIn(parent, moved, behind.node);
     }
-    const auto source = moved.document;
-    fetch(*parent.document, moved.node, *source);
-    detail::linkChild(parent.node, moved.node, behind.node);
-    parent.document->place(moved.node);
     return child;
 }
 
@@ -312,9 +319,7 @@ IXMLDOMNode IXMLDOMNode::replaceChild(const IXMLDOMNode& fresh, const IXMLDOMNod
     NodeRef& parent  = reach(mRef);
     NodeRef& moved   = reach(fresh.ref());
     NodeRef& leaving = reach(old.ref());
-    if (isAttribute(leaving.node) || leaving.node->parent != parent.node) {
-        refuse("The node to be replaced is not a child of this node.");
-    }
+    requireIsChild(parent, leaving, "The node to be replaced is not a child of this node.");
     requireChild(parent.node, moved.node, leaving.node);
     if (moved.node == leaving.node) {
         return old;
@@ -335,9 +340,7 @@ IXMLDOMNode IXMLDOMNode::removeChild(const IXMLDOMNode& child) const
 {
     NodeRef& parent  = reach(mRef);
     NodeRef& leaving = reach(child.ref());
-    if (isAttribute(leaving.node) || leaving.node->parent != parent.node) {
-        refuse("The node to be removed is not a child of this node.");
-    }
+    requireIsChild(parent, leaving, "The node to be removed is not a child of this node.");
     fetch(*parent.document, leaving.node, *parent.document);
     parent.document->keepOrFree(leaving.node);
     return child;

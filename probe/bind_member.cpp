@@ -1,4 +1,4 @@
-#include "probe/binding.h"
+#include "probe/bind_member.h"
 
 namespace quill::probe::detail {
 
