@@ -128,6 +128,20 @@ bool Book::LeaveSelectedView()
     return page == nullptr || step.value(true, [&] { return page->LeaveSelectedView(); });
 }
 
+void Book::takeUnits(const std::function<bool(const std::string& parameter)>& wanted)
+{
+    for (const auto& page : mPages) {
+        page->takeUnits(wanted);
+    }
+}
+
+void Book::letGo()
+{
+    for (const auto& page : mPages) {
+        page->letGo();
+    }
+}
+
 void Book::RequestFocus()
 {
     if (Page* page = shownPage()) {

@@ -29,6 +29,12 @@ public:
     /// Fits the shown page to its room and takes its size.
     void layOut(const PageSpace& space);
 
+    /// For all pages (see `Page::takeUnits`).
+    void takeUnits(const std::function<bool(const std::string& parameter)>& wanted);
+
+    /// Lets all pages end what they have begun on the device (see `Page::letGo`).
+    void letGo();
+
     /// An error goes to the pages that it is about: every page that takes one tells the user. One
     /// that is about none goes to the page that is shown, or to the first one if that is not for
     /// it.

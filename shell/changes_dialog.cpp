@@ -3,8 +3,6 @@
 #include "platform/toolkit.h"
 #include "qt/geometry.h"
 
-#include <QKeyEvent>
-#include <QPushButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -13,7 +11,7 @@
 namespace quill::shell {
 
 ChangesDialog::ChangesDialog(ShellMessenger& messenger, QWidget* parent)
-    : QDialog(parent), mMessenger(messenger)
+    : ControlDialog(parent), mMessenger(messenger)
 {
     mControl.Visible = false;
     mControl.SetMessenger(&messenger);
@@ -21,7 +19,7 @@ ChangesDialog::ChangesDialog(ShellMessenger& messenger, QWidget* parent)
     mView->resize(mView->sizeHint());
     resize(mView->sizeHint());
     setMinimumSize(mView->sizeHint());
-    mOnHide = mControl.Hide.subscribe([this] { QDialog::hide(); });
+    follow(mControl);
     mRowsTimer.setSingleShot(true);
     connect(&mRowsTimer, &QTimer::timeout, this, &ChangesDialog::fitColumns);
     mOnRows = mControl.lstChanges.Changed.subscribe([this](const platform::WidgetChange& change) {
@@ -54,33 +52,7 @@ void ChangesDialog::ask()
     mControl.show();
     fitColumns();
     mView->flush();
-}
-
-void ChangesDialog::reject()
-{
-    mControl.cmdClose.click();
-}
-
-void ChangesDialog::keyPressEvent(QKeyEvent* event)
-{
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!enter) {
-        QDialog::keyPressEvent(event);
-        return;
-    }
-    // On a button Enter means that button, elsewhere the one that the dialog is for.
-    if (auto* button = qobject_cast<QPushButton*>(focusWidget())) {
-        button->click();
-    } else {
-        mControl.cmdDownload.click();
-    }
-}
-
-void ChangesDialog::resizeEvent(QResizeEvent* event)
-{
-    QDialog::resizeEvent(event);
-    mView->resize(size());
-    arrange();
+    markMainButton(*mView);
 }
 
 void ChangesDialog::arrange()
@@ -92,6 +64,7 @@ void ChangesDialog::arrange()
     constexpr std::int32_t kPadding     = 480;
     const std::int32_t     width        = qt::toTwips(this->width());
     const std::int32_t     height       = qt::toTwips(this->height());
+    mView->resize(size());
 
     std::int32_t left = width - kMargin;
     for (platform::CommandButton* button :

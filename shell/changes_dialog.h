@@ -2,16 +2,15 @@
 
 #include "qt/view.h"
 #include "records/CtrChanges.h"
+#include "shell/control_dialog.h"
 #include "shell/shell_messenger.h"
 
-#include <QDialog>
 #include <QTimer>
 
 namespace quill::shell {
 
-/// The dialog of pending changes in a window. The control decides when it closes: it hides itself,
-/// and the window goes with it.
-class ChangesDialog : public QDialog {
+/// The dialog of pending changes in a window.
+class ChangesDialog : public ControlDialog {
     Q_OBJECT
 
 public:
@@ -25,15 +24,12 @@ public:
     void ask();
     void localize();
 
-    /// Escape and the window's own close button: nothing is sent.
-    void reject() override;
-
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
+    [[nodiscard]] platform::CommandButton& mainButton() override { return mControl.cmdDownload; }
+    [[nodiscard]] platform::CommandButton& leaveButton() override { return mControl.cmdClose; }
+    void                                   arrange() override;
 
 private:
-    void arrange();
     /// Makes the columns wide enough for what is listed, and the dialog for the columns.
     void fitColumns();
 
@@ -41,7 +37,6 @@ private:
     CtrChanges             mControl;
     qt::View*              mView;
     QTimer                 mRowsTimer;
-    platform::Subscription mOnHide;
     platform::Subscription mOnRows;
 };
 

@@ -374,6 +374,13 @@ ParameterContent DatafileStore::toSave(const Parameter& parameter) const
     return edit;
 }
 
+bool DatafileStore::isEdited(const std::string& name) const
+{
+    const auto found = mParameters.find(name);
+    return found != mParameters.end() &&
+           (found->second.edit == Parameter::Edit::error || found->second.isEdited());
+}
+
 ParameterContent DatafileStore::content(const std::string& name) const
 {
     const auto found = mParameters.find(name);

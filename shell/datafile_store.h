@@ -80,6 +80,9 @@ public:
     [[nodiscard]] bool hasUnsavedChanges() const;
     /// Number of parameters that an editor reports as edited, correct or not.
     [[nodiscard]] std::size_t editCount() const;
+    /// Whether a parameter holds what a user has typed or chosen, correct or not, and not what was
+    /// loaded, read or accepted.
+    [[nodiscard]] bool isEdited(const std::string& parameter) const;
     /// What a save would write of a parameter. Failure 5 if there is none of this name.
     [[nodiscard]] ParameterContent content(const std::string& parameter) const;
 

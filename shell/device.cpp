@@ -21,22 +21,6 @@ namespace {
 using documents::attributeText;
 using platform::Failure;
 
-std::string optionalAttribute(const IXMLDOMNode& element, std::string_view name)
-{
-    const IXMLDOMNode attribute = platform::attributeNode(element, name);
-    return attribute ? attribute.get_text() : std::string{};
-}
-
-std::optional<double> number(const std::string& text)
-{
-    double      value  = 0;
-    const char* end    = text.data() + text.size();
-    const auto  result = std::from_chars(text.data(), end, value);
-    return result.ec == std::errc{} && result.ptr == end && std::isfinite(value)
-               ? std::optional{value}
-               : std::nullopt;
-}
-
 /// Three whole numbers with the same separator between, as "d.m.yyyy" and "h:n:s" are written.
 std::optional<std::array<int, 3>> triple(const std::string& text, char separator)
 {
@@ -89,8 +73,8 @@ void SimulatedDevice::addParameters(const IXMLDOMNode& datafile)
         parameter.type     = attributeText(node, "type");
         parameter.value    = optionalAttribute(node, "value");
         parameter.unit     = optionalAttribute(node, "unit");
-        parameter.minimum  = number(optionalAttribute(node, "minVal"));
-        parameter.maximum  = number(optionalAttribute(node, "maxVal"));
+        parameter.minimum  = numberIn(optionalAttribute(node, "minVal"));
+        parameter.maximum  = numberIn(optionalAttribute(node, "maxVal"));
         parameter.writable = values::containsNoCase(optionalAttribute(node, "access"), "write");
         // A parameter with limits is a number, also where a list names its bits.
         if (values::isNumericType(parameter.type) && !parameter.minimum && !parameter.maximum) {
@@ -298,7 +282,7 @@ bool SimulatedDevice::take(DeviceParameter& parameter, const DeviceRequestItem& 
         return true;
     }
 
-    const auto given = number(item.value);
+    const auto given = numberIn(item.value);
     if (!given) {
         return false;
     }
@@ -315,8 +299,9 @@ bool SimulatedDevice::take(DeviceParameter& parameter, const DeviceRequestItem& 
         taken = std::nearbyint(taken);
     }
     if (!parameter.choices.empty() &&
-        std::ranges::none_of(parameter.choices,
-                             [&](const std::string& choice) { return number(choice) == taken; })) {
+        std::ranges::none_of(parameter.choices, [&](const std::string& choice) {
+            return numberIn(choice) == taken;
+        })) {
         return false;
     }
     taken = std::max(taken, parameter.minimum.value_or(taken));

@@ -10,8 +10,6 @@
 
 #include <algorithm>
 #include <array>
-#include <charconv>
-#include <cmath>
 #include <utility>
 
 namespace quill::shell {
@@ -54,14 +52,9 @@ bool isMultidrop(const SimulatedDevice& device)
 /// What an item says, in mA; nothing for what is no current.
 std::optional<double> currentOf(const DeviceRequestItem& item)
 {
-    double      value  = 0;
-    const char* end    = item.value.data() + item.value.size();
-    const auto  result = std::from_chars(item.value.data(), end, value);
-    if (result.ec != std::errc{} || result.ptr != end || !std::isfinite(value)) {
-        return std::nullopt;
-    }
+    const auto value   = numberIn(item.value);
     const bool isPlain = item.unit.empty() || item.unit == documents::kNoUnit;
-    return isPlain ? value : convertUnit(value, item.unit, kMilliamp);
+    return isPlain || !value ? value : convertUnit(*value, item.unit, kMilliamp);
 }
 
 std::string errorOf(TrimProblem problem)

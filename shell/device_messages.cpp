@@ -4,6 +4,8 @@
 #include "platform/failure.h"
 
 #include <algorithm>
+#include <charconv>
+#include <cmath>
 #include <iterator>
 
 namespace quill::shell {
@@ -27,13 +29,23 @@ std::vector<IXMLDOMNode> children(const IXMLDOMNode& node, const std::string& na
     return found;
 }
 
+} // namespace
+
 std::string optionalAttribute(const IXMLDOMNode& element, std::string_view name)
 {
     const IXMLDOMNode attribute = platform::attributeNode(element, name);
     return attribute ? attribute.get_text() : std::string{};
 }
 
-} // namespace
+std::optional<double> numberIn(const std::string& text)
+{
+    double      value  = 0;
+    const char* end    = text.data() + text.size();
+    const auto  result = std::from_chars(text.data(), end, value);
+    return result.ec == std::errc{} && result.ptr == end && std::isfinite(value)
+               ? std::optional{value}
+               : std::nullopt;
+}
 
 DeviceRequest DeviceRequest::parse(const std::string& xml)
 {

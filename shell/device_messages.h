@@ -2,7 +2,9 @@
 
 #include "framework/host_contract.h"
 
+#include <optional>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -16,6 +18,12 @@ inline constexpr const char* kErrWrongValue     = "hartCmdErrInvalidSelection";
 inline constexpr const char* kErrNotWritable    = "hartCmdErrAccessRestricted";
 inline constexpr const char* kErrNotUnderstood  = "communicationError";
 ///@}
+
+/// The text of an attribute, empty for one that is missing.
+[[nodiscard]] std::string optionalAttribute(const IXMLDOMNode& element, std::string_view name);
+/// The number that is the whole text, in the form of documents; nothing where there is none or it
+/// is not finite.
+[[nodiscard]] std::optional<double> numberIn(const std::string& text);
 
 /// One item of a request: a parameter, and in a write its value in `unit`.
 struct DeviceRequestItem {

@@ -6,7 +6,6 @@
 #include "shell/units.h"
 
 #include <algorithm>
-#include <charconv>
 #include <cmath>
 #include <cstdint>
 
@@ -27,16 +26,6 @@ struct Tuning {
 constexpr Tuning kTunings[]   = {{1.2, 1.5, 0.02}, {2.4, 0.8, 0.05}, {4, 0.5, 0.08}};
 constexpr int    kUserTuning  = 3;
 constexpr int    kCurvePoints = 9;
-
-std::optional<double> numberIn(const std::string& text)
-{
-    double      value  = 0;
-    const char* end    = text.data() + text.size();
-    const auto  result = std::from_chars(text.data(), end, value);
-    return result.ec == std::errc{} && result.ptr == end && std::isfinite(value)
-               ? std::optional{value}
-               : std::nullopt;
-}
 
 /// As the device writes a number: rounded, in the shortest form.
 std::string rounded(double value, double resolution)

@@ -38,12 +38,6 @@ bool isMaskName(const std::string& parameter)
     return parameter.starts_with(kMaskPrefix);
 }
 
-std::string optionalAttribute(const IXMLDOMNode& element, const char* name)
-{
-    const IXMLDOMNode attribute = platform::attributeNode(element, name);
-    return attribute ? attribute.get_text() : std::string{};
-}
-
 /// -1 for an attribute that is missing or no number.
 int numberIn(const IXMLDOMNode& element, const char* attribute)
 {

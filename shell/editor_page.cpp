@@ -9,6 +9,7 @@
 #include "framework/documents.h"
 #include "platform/toolkit.h"
 #include "shell/forwarding_messenger.h"
+#include "shell/row_metrics.h"
 
 #include <algorithm>
 
@@ -17,12 +18,8 @@ namespace quill::shell {
 namespace {
 
 // Lengths in twips.
-constexpr std::int32_t kMargin       = 240; ///< around a section and inside it
-constexpr std::int32_t kTitleHeight  = 585; ///< of a section, with the time of last read
-constexpr std::int32_t kRowHeight    = 390;
-constexpr std::int32_t kRowPitch     = 480;
-constexpr std::int32_t kTextTop      = 60; ///< of a label in its row
-constexpr std::int32_t kTextHeight   = 270;
+constexpr std::int32_t kMargin       = kPageMargin;
+constexpr std::int32_t kTextTop      = (kRowHeight - kTextHeight) / 2; ///< of a label in its row
 constexpr std::int32_t kGap          = 180;
 constexpr std::int32_t kBoxWidth     = 2400;
 constexpr std::int32_t kWideBox      = 3900; ///< for long texts
@@ -30,10 +27,8 @@ constexpr std::int32_t kLongText     = 20;   ///< characters
 constexpr std::int32_t kArrowWidth   = 600;  ///< of a drop-down list
 constexpr std::int32_t kSignsWidth   = 400;  ///< right of a box, with their gap
 constexpr std::int32_t kUnitRoom     = 900;
-constexpr std::int32_t kMarkWidth    = 450; ///< of an option, with its gap
-constexpr std::int32_t kCheckWidth   = 720; ///< of sign and mark of a row of checks
-constexpr std::int32_t kCheckHeight  = 375;
-constexpr std::int32_t kCheckBorder  = 120;
+constexpr std::int32_t kMarkWidth    = 450;  ///< of an option, with its gap
+constexpr std::int32_t kCheckWidth   = 720;  ///< of sign and mark of a row of checks
 constexpr std::int32_t kDuration     = 4500; ///< boxes for days, hours, minutes and seconds
 constexpr std::int32_t kButtonMargin = 420;
 
@@ -73,6 +68,14 @@ std::int32_t boxWidth(const EditorCore& editor, std::int32_t usual)
         return isLong ? std::max(kWideBox, usual) : usual;
     }
     return usual;
+}
+
+/// Height of the first line of an editor, beside which its label stands.
+std::int32_t firstLine(const EditorCore& editor)
+{
+    const auto* options = dynamic_cast<const CtrOptionEdit*>(&editor);
+    return options != nullptr && options->OptionCount() > 0 ? options->Option(0).Height.get()
+                                                            : kRowHeight;
 }
 
 std::int32_t unitWidth(const EditorCore& editor)
@@ -300,11 +303,8 @@ std::int32_t EditorPage::fill(Section& section, std::int32_t labelWidth)
         usual = std::max(usual, listWidth(*row->editor));
     }
     for (const auto& row : section.rows) {
-        if (const auto* checks = dynamic_cast<const CtrCheckEdit*>(row->editor.get())) {
-            row->editor->Height = checks->scgCheck.RowCount() * kCheckHeight + kCheckBorder;
-        }
         row->label.Left        = kMargin;
-        row->label.Top         = top + kTextTop;
+        row->label.Top         = top + (firstLine(*row->editor) - kTextHeight) / 2;
         row->label.Width       = labelWidth;
         row->label.Height      = kTextHeight;
         const std::int32_t box = boxWidth(*row->editor, usual);
@@ -363,12 +363,12 @@ void EditorPage::layOut(const PageSpace& space)
             auto& date    = *section->date;
             date.Width    = textWidth(date.Caption()) + kGap / 2;
             date.Left     = button.Left - kGap - date.Width;
-            date.Top      = 2 * kTextTop;
+            date.Top      = kTitleText;
             auto& read    = *section->lblRead;
             read.Width    = textWidth(read.Caption) + kGap / 2;
             read.Height   = kTextHeight;
             read.Left     = date.Left - kGap / 2 - read.Width;
-            read.Top      = 2 * kTextTop;
+            read.Top      = kTitleText;
             read.Visible  = !date.Caption().empty();
         }
     }
@@ -424,6 +424,24 @@ void EditorPage::Localize(Translator& translator)
 void EditorPage::SetOfflineData(const IXMLDOMNode& node)
 {
     ViewBase::SetOfflineData(node);
+    layOut(mLaidOutFor);
+}
+
+void EditorPage::takeUnits(const std::function<bool(const std::string& parameter)>& wanted)
+{
+    const Steps step{GetMessenger(), "EditorPage takeUnits: "};
+    for (const auto& section : mSections) {
+        for (const auto& row : section->rows) {
+            EditorCore& editor  = *row->editor;
+            const bool  hasUnit = dynamic_cast<CtrTextEdit*>(&editor) != nullptr ||
+                                 dynamic_cast<CtrTimeEdit*>(&editor) != nullptr;
+            step([&] {
+                if (hasUnit && editor.IsInitialized() && wanted(row->parameter)) {
+                    editor.setOfflineData(editor.dataNode());
+                }
+            });
+        }
+    }
     layOut(mLaidOutFor);
 }
 

@@ -33,6 +33,8 @@ public:
     /// it. Texts decide what a section needs, so this follows every change of them.
     void layOut(const PageSpace& space) override;
 
+    void takeUnits(const std::function<bool(const std::string& parameter)>& wanted) override;
+
     void SetMessenger(Messenger* messenger) override;
     void Localize(Translator& translator) override;
     void SetOfflineData(const IXMLDOMNode& node) override;

@@ -5,7 +5,7 @@
 namespace quill::shell {
 
 /// Pictures of the shell's commands.
-enum class Symbol { open, save, connect, disconnect, read, changes, log, valve, settings };
+enum class Symbol { open, save, connect, disconnect, read, changes, valve, settings };
 
 /// A line drawing in the colour of the application's texts, at whatever size and resolution it is
 /// asked for; it follows a change of the palette by itself.

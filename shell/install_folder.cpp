@@ -43,6 +43,28 @@ void installDocuments(const std::string& folder)
     }
 }
 
+void InstallFolder::setFolder(const std::string& folder)
+{
+    mFolder     = folder;
+    mIsPrepared = false;
+}
+
+std::string InstallFolder::path()
+{
+    if (mFolder.empty() && !mTemporary) {
+        mTemporary.emplace();
+    }
+    return (mFolder.empty() ? mTemporary->path().toStdString() + '/' : mFolder) + "install/";
+}
+
+void InstallFolder::prepare()
+{
+    if (!mIsPrepared) {
+        mIsPrepared = true;
+        installDocuments(path());
+    }
+}
+
 std::string defaultFdtDocument()
 {
     return sampleFile("modules_fdt.xml");

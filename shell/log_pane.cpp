@@ -1,8 +1,10 @@
 #include "shell/log_pane.h"
 
 #include "platform/failure.h"
+#include "qt/rows_tree.h"
 
 #include <QCheckBox>
+#include <QEvent>
 #include <QHBoxLayout>
 #include <QHeaderView>
 #include <QPushButton>
@@ -38,8 +40,11 @@ LogPane::LogPane(ShellMessenger& messenger, QWidget* parent)
     mLines->setAllColumnsShowFocus(true);
     mLines->setTabKeyNavigation(false);
     mLines->setSelectionMode(QAbstractItemView::ExtendedSelection);
+    mLines->installEventFilter(this);
     mLines->header()->setStretchLastSection(true);
     mLines->setFrameShape(QFrame::NoFrame);
+    mLines->setItemDelegate(new qt::RoomyRows(mLines));
+    mLines->setIconSize(QSize(0, 0)); // there are none to make room for
 
     auto* content = new QWidget;
     auto* column  = new QVBoxLayout(content);
@@ -80,6 +85,22 @@ LogPane::LogPane(ShellMessenger& messenger, QWidget* parent)
                 add(Kind::detail, QString("%1 %2").arg(category).arg(text.simplified()));
             });
     localize();
+}
+
+bool LogPane::eventFilter(QObject* watched, QEvent* event)
+{
+    // Without a row at hand the keyboard would be nowhere to be seen.
+    if (watched == mLines && event->type() == QEvent::FocusIn && mLines->currentItem() == nullptr) {
+        QTreeWidgetItem* last = nullptr;
+        for (int row = mLines->topLevelItemCount(); row > 0 && last == nullptr; --row) {
+            QTreeWidgetItem* const item = mLines->topLevelItem(row - 1);
+            last                        = item->isHidden() ? nullptr : item;
+        }
+        if (last != nullptr) {
+            mLines->setCurrentItem(last, kTime, QItemSelectionModel::NoUpdate);
+        }
+    }
+    return QDockWidget::eventFilter(watched, event);
 }
 
 void LogPane::beLastInTabOrder()
@@ -160,6 +181,7 @@ void LogPane::localize()
     setWindowTitle(texts.text("shell_log"));
     mClear->setText(texts.text("shell_logClear"));
     mDetails->setText(texts.text("shell_logShowDetails"));
+    mLines->setAccessibleName(texts.text("shell_log"));
     mLines->setHeaderLabels({texts.text("shell_logTime"), texts.text("shell_logCategory"),
                              texts.text("shell_logText")});
     int widest = mLines->fontMetrics().horizontalAdvance(texts.text("shell_logCategory"));

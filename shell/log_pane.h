@@ -27,6 +27,9 @@ public:
     void clear();
     void localize();
 
+protected:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
 private:
     void showDetails(bool shown);
     void dropOldest();

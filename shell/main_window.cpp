@@ -4,6 +4,7 @@
 #include "platform/list_view.h"
 #include "qt/geometry.h"
 #include "shell/icons.h"
+#include "shell/status_sign.h"
 #include "shell/view_page.h"
 
 #include <QAction>
@@ -146,6 +147,7 @@ bool MainWindow::turnTo(const std::string& tag)
     }
     mView->flush();
     mScroll->verticalScrollBar()->setValue(0);
+    mScroll->horizontalScrollBar()->setValue(0);
     markInTree(tag);
     showStateSoon();
     return true;
@@ -290,6 +292,11 @@ void MainWindow::nameEditors()
                     *page->find(row.parameter),
                     QString::fromStdString(page->labelOf(row.parameter)->Caption));
             }
+            // All of a page say the same, and only he who sees them knows what they read.
+            if (const auto* const button = page->readButton(section.group)) {
+                mView->setAccessibleLabel(*button, texts.text("shell_readSection") + ", " +
+                                                       texts.text(section.title.c_str()));
+            }
         }
         const auto* const filled = dynamic_cast<const ViewPage*>(page.get());
         for (platform::Widget* widget :
@@ -362,9 +369,12 @@ void MainWindow::showState()
     mBusy->setVisible(busy);
     mBusy->setToolTip(texts.text("shell_transferRuns"));
     showStatus();
-    setWindowTitle(
+    const QString title =
         texts.text(open && store.hasUnsavedChanges() ? "shell_titleModified" : "shell_title")
-            .arg(open ? datafileName() : QString{}));
+            .arg(open ? datafileName() : QString{});
+    const QString status = mStatus->word();
+    setWindowTitle(status.isEmpty() ? title : status + " – " + title);
+    setWindowIcon(status.isEmpty() ? icon(Symbol::valve) : mStatus->icon());
 }
 
 void MainWindow::showAbout()

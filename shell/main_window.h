@@ -4,6 +4,7 @@
 #include "qt/view.h"
 #include "shell/book.h"
 #include "shell/changes_dialog.h"
+#include "shell/focus_transfer.h"
 #include "shell/folders.h"
 #include "shell/log_pane.h"
 #include "shell/settings_dialog.h"
@@ -110,6 +111,8 @@ private:
     void showSettings();
     void chooseScheme(ColorScheme scheme);
     void chooseUnits(const std::string& system);
+    /// What nobody has edited is shown as if it had come up in these units.
+    void takeUnits();
     /// Marks the system that all display units are of, if there is one.
     void showUnitSystem();
 
@@ -118,6 +121,8 @@ private:
     /// device when it is left has arrived then.
     [[nodiscard]] bool mayLeavePage();
     void               goOnlineOrOffline();
+    /// Who gives up the right to change the device ends first what needs it.
+    void               chooseUserLevel(std::int16_t level);
     [[nodiscard]] bool mayLoseChanges();
     /// Says that something is done, where it is no matter for a box: below and in the log.
     void tell(const QString& text);
@@ -189,6 +194,8 @@ private:
     QMenu*              mViewMenu        = nullptr;
     QTimer              mStateTimer;
     QTranslator         mQtTexts;
+
+    std::unique_ptr<FocusTransfer> mFocusTransfer;
 };
 
 } // namespace quill::shell

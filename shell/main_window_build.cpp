@@ -212,7 +212,7 @@ void MainWindow::buildToolBar()
     }
     mLevel->setCurrentIndex(mLevel->findData(static_cast<int>(mMessenger.GetUserLevel())));
     connect(mLevel, &QComboBox::activated, this, [this](int row) {
-        mMessenger.setUserLevel(static_cast<std::int16_t>(mLevel->itemData(row).toInt()));
+        chooseUserLevel(static_cast<std::int16_t>(mLevel->itemData(row).toInt()));
     });
     for (QWidget* widget :
          {static_cast<QWidget*>(mLanguageName), static_cast<QWidget*>(mLanguage), spacer(8),
@@ -286,7 +286,6 @@ void MainWindow::buildCentre()
     resizeDocks({mLog}, {kLogHeight}, Qt::Vertical);
     QAction* const shown = mLog->toggleViewAction();
     shown->setShortcut(Qt::CTRL | Qt::Key_G);
-    shown->setIcon(icon(Symbol::log));
     QAction* const dark = command("dark");
     mViewMenu->insertAction(dark, shown);
 
@@ -297,7 +296,6 @@ void MainWindow::buildCentre()
     simulated->setObjectName("simulation");
     addAction(simulated);
     simulated->setShortcut(Qt::CTRL | Qt::Key_M);
-    simulated->setIcon(icon(Symbol::valve));
     mViewMenu->insertAction(dark, simulated);
     mViewMenu->insertSeparator(dark);
     connect(&mClock, &SimulationClock::ticked, mSimulation, [this] {
@@ -305,7 +303,6 @@ void MainWindow::buildCentre()
             mSimulation->refresh();
         }
     });
-    setWindowIcon(icon(Symbol::valve));
 }
 
 void MainWindow::buildStatusLine()
@@ -369,11 +366,8 @@ void MainWindow::connectMessenger()
     }
     connect(&mMessenger, &ShellMessenger::parameterStateChanged, this, &MainWindow::showStateSoon);
     connect(&mMessenger.link(), &DeviceLink::busyChanged, this, &MainWindow::showStateSoon);
-    connect(&mMessenger, &ShellMessenger::focusTransferred, this, [this] {
-        if (isActiveWindow()) {
-            focusNextChild();
-        }
-    });
+    mFocusTransfer = std::make_unique<FocusTransfer>(
+        mMessenger, *this, [this](bool forward) { focusNextPrevChild(forward); });
 }
 
 } // namespace quill::shell

@@ -1,6 +1,7 @@
 #include "shell/main_window.h"
 
 #include <QCloseEvent>
+#include <QComboBox>
 #include <QEventLoop>
 #include <QStatusBar>
 #include <QTimer>
@@ -20,6 +21,9 @@ bool MainWindow::mayLeavePage()
     if (mBook && !mBook->LeaveSelectedView()) {
         return false;
     }
+    if (mBook) {
+        mBook->letGo();
+    }
     if (mMessenger.outstanding() > before) {
         // A device that was left with a test current would keep it.
         QEventLoop loop;
@@ -35,6 +39,17 @@ void MainWindow::goOnlineOrOffline()
     if (!mMessenger.isOnline() || mayLeavePage()) {
         mMessenger.setOnline(!mMessenger.isOnline());
     }
+}
+
+void MainWindow::chooseUserLevel(std::int16_t level)
+{
+    const bool givesUp =
+        level < kMaintenanceLevel && mMessenger.GetUserLevel() >= kMaintenanceLevel;
+    if (givesUp && !mayLeavePage()) {
+        mLevel->setCurrentIndex(mLevel->findData(static_cast<int>(mMessenger.GetUserLevel())));
+        return;
+    }
+    mMessenger.setUserLevel(level);
 }
 
 bool MainWindow::mayLoseChanges()

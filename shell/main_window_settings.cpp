@@ -1,3 +1,4 @@
+#include "framework/documents.h"
 #include "shell/main_window.h"
 
 #include <QAction>
@@ -39,6 +40,7 @@ void MainWindow::buildSettings(const Folders& folders)
         keepSettings();
     });
     connect(&mMessenger, &ShellMessenger::unitsChanged, this, [this] {
+        takeUnits();
         showUnitSystem();
         fitBook();
         keepSettings();
@@ -111,6 +113,24 @@ void MainWindow::chooseUnits(const std::string& system)
         }
     }
     mMessenger.informUnitChanges();
+}
+
+void MainWindow::takeUnits()
+{
+    if (!mBook) {
+        return;
+    }
+    auto&      store = mMessenger.store();
+    const auto units = [&](const std::string& parameter) {
+        const auto node = documents::findParameter(store.document(), parameter);
+        const auto unit = node ? platform::attributeNode(node, "unit") : IXMLDOMNode{};
+        return unit && !unit.get_text().empty() && unit.get_text() != documents::kNoUnit;
+    };
+    store.beginLoading();
+    mBook->takeUnits([&](const std::string& parameter) {
+        return !store.isEdited(parameter) && units(parameter);
+    });
+    store.endLoading();
 }
 
 void MainWindow::showUnitSystem()

@@ -7,6 +7,7 @@
 #include "shell/page_description.h"
 
 #include <cstdint>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -45,8 +46,17 @@ public:
     /// Whether the page tells the user of an error that concerns no page.
     [[nodiscard]] virtual bool tellsAnyError() const { return true; }
 
+    /// Lets the editors of these parameters take their values anew from the datafile, where they
+    /// may stand in another unit. A change of units converts what is on the screen, and with it the
+    /// decimals that are lost there.
+    virtual void takeUnits(const std::function<bool(const std::string& parameter)>&) {}
+
     /// Takes its place and the size that comes of it: at least what its contents need.
     virtual void layOut(const PageSpace& space) = 0;
+
+    /// The connection to the device is about to go: whatever this page has begun there is ended,
+    /// also if it was left before.
+    virtual void letGo() {}
 
     /// A page is the one that it shows.
     void        SetSelectedView(const std::string&) override {}

@@ -5,9 +5,6 @@
 #include "qt/geometry.h"
 #include "shell/languages.h"
 
-#include <QKeyEvent>
-#include <QPushButton>
-
 #include <algorithm>
 
 namespace quill::shell {
@@ -60,7 +57,7 @@ void SettingsPage::callByName(const std::string& method, const std::vector<std::
 // --- The window -------------------------------------------------------------------------------
 
 SettingsDialog::SettingsDialog(ShellMessenger& messenger, QWidget* parent)
-    : QDialog(parent), mMessenger(messenger)
+    : ControlDialog(parent), mMessenger(messenger)
 {
     setMinimumSize(qt::toPixels(kWidth), qt::toPixels(kLeastHeight));
     resize(qt::toPixels(kWidth), qt::toPixels(kHeight));
@@ -73,11 +70,10 @@ SettingsDialog::~SettingsDialog() = default;
 
 void SettingsDialog::makePage()
 {
-    mOnHide.drop();
     mView.reset();
-    mPage   = std::make_unique<SettingsPage>(mMessenger);
-    mView   = std::make_unique<qt::View>(*mPage, this);
-    mOnHide = mPage->settings.Hide.subscribe([this] { QDialog::hide(); });
+    mPage = std::make_unique<SettingsPage>(mMessenger);
+    mView = std::make_unique<qt::View>(*mPage, this);
+    follow(mPage->settings);
     takeTexts();
 }
 
@@ -93,6 +89,7 @@ void SettingsDialog::ask()
     mPage->settings.show();
     arrange();
     mView->flush();
+    markMainButton(*mView);
 }
 
 void SettingsDialog::localize()
@@ -107,32 +104,6 @@ void SettingsDialog::takeTexts()
     mTextsTimer.stop();
     mMessenger.localize(mPage->settings);
     setWindowTitle(mMessenger.texts().text("settings"));
-    arrange();
-}
-
-void SettingsDialog::reject()
-{
-    mPage->settings.cmdCancel.click();
-}
-
-void SettingsDialog::keyPressEvent(QKeyEvent* event)
-{
-    const bool enter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
-    if (!enter) {
-        QDialog::keyPressEvent(event);
-        return;
-    }
-    // On a button Enter means that button, elsewhere the one that the dialog is for.
-    if (auto* button = qobject_cast<QPushButton*>(focusWidget())) {
-        button->click();
-    } else {
-        mPage->settings.cmdOK.click();
-    }
-}
-
-void SettingsDialog::resizeEvent(QResizeEvent* event)
-{
-    QDialog::resizeEvent(event);
     arrange();
 }
 

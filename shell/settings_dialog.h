@@ -3,9 +3,9 @@
 #include "framework/named_callbacks.h"
 #include "qt/view.h"
 #include "records/CtrSettings.h"
+#include "shell/control_dialog.h"
 #include "shell/shell_messenger.h"
 
-#include <QDialog>
 #include <QTimer>
 
 #include <memory>
@@ -29,9 +29,8 @@ private:
     ShellMessenger& mMessenger;
 };
 
-/// The settings in a window. The control decides when it closes: it hides itself, and the window
-/// goes with it. Each time it comes up it shows what is in force then.
-class SettingsDialog : public QDialog {
+/// The settings in a window. Each time it comes up it shows what is in force then.
+class SettingsDialog : public ControlDialog {
     Q_OBJECT
 
 public:
@@ -46,23 +45,22 @@ public:
     /// Shows its texts in the language in force, once the control has done what it is about.
     void localize();
 
-    /// Escape and the window's own close button: nothing takes effect.
-    void reject() override;
-
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
-    void resizeEvent(QResizeEvent* event) override;
+    [[nodiscard]] platform::CommandButton& mainButton() override { return mPage->settings.cmdOK; }
+    [[nodiscard]] platform::CommandButton& leaveButton() override
+    {
+        return mPage->settings.cmdCancel;
+    }
+    void arrange() override;
 
 private:
     void makePage();
     void takeTexts();
-    void arrange();
 
     ShellMessenger&               mMessenger;
     std::unique_ptr<SettingsPage> mPage;
     std::unique_ptr<qt::View>     mView;
     QTimer                        mTextsTimer;
-    platform::Subscription        mOnHide;
 };
 
 } // namespace quill::shell

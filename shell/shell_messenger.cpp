@@ -3,35 +3,20 @@
 #include "framework/documents.h"
 #include "framework/values.h"
 #include "platform/failure.h"
-#include "platform/toolkit.h"
-#include "records/event_log_times.h"
+#include "qt/text.h"
 #include "shell/device_build.h"
-#include "shell/install_folder.h"
 
 #include <QStandardPaths>
-#include <QTimer>
-
-#include <algorithm>
-#include <array>
-#include <string_view>
 
 namespace quill::shell {
 
 namespace {
 
-constexpr const char* kMasksRequest = "deviceStatusMasks";
-constexpr const char* kAddressGroup = "hartAddress";
-constexpr const char* kAddress      = "pollingAddress";
-constexpr const char* kClearRequest = "deviceStatusClearConfigurationChanged";
-/// Requests that are answered beside the transfers.
-constexpr std::array<std::string_view, 2> kStatusRequests = {"deviceStatus", kMasksRequest};
+using qt::toQt;
+
+constexpr const char* kAddress = "pollingAddress";
 
 constexpr std::int16_t kDeviceLevel = 1; ///< of a combined status
-
-QString qString(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
 
 std::string folder(QStandardPaths::StandardLocation location)
 {
@@ -49,16 +34,6 @@ public:
 private:
     DatafileStore& mStore;
 };
-
-std::string emptyRequest(const std::string& name, const std::string& access)
-{
-    const IXMLDOMDocument document = documents::openEmptyRequest();
-    const IXMLDOMNode     request  = document.createElement("communicationRequest");
-    documents::writeAttribute(request, "name", name);
-    documents::writeAttribute(request, "access", access);
-    document.get_documentElement().appendChild(request);
-    return document.get_xml();
-}
 
 } // namespace
 
@@ -87,8 +62,7 @@ ShellMessenger::~ShellMessenger() = default;
 
 void ShellMessenger::setFolder(const std::string& folder)
 {
-    mFolder      = folder;
-    mIsInstalled = false;
+    mInstallFolder.setFolder(folder);
     mHostDocuments.setFolder(folder);
 }
 
@@ -178,48 +152,6 @@ void ShellMessenger::informUnitChanges()
     emit unitsChanged();
 }
 
-bool ShellMessenger::readGroup(const std::string& group)
-{
-    if (std::ranges::find(kStatusRequests, std::string_view{group}) == kStatusRequests.end()) {
-        return sendToDevice(emptyRequest(group, "read"), "read");
-    }
-    if (!maySend("read")) {
-        return false;
-    }
-    readBeside(group);
-    return true;
-}
-
-void ShellMessenger::readBeside(const std::string& group)
-{
-    mBeside.setDelay(mLink.delay());
-    mBeside.send(emptyRequest(group, "read"));
-}
-
-void ShellMessenger::takeNewAddress(std::uint8_t address)
-{
-    emit addressChanged(address);
-    // Not from within the control that has set it.
-    QTimer::singleShot(0, this, [this] {
-        if (mOnline) {
-            readBeside(kAddressGroup);
-        }
-    });
-}
-
-bool ShellMessenger::readAll()
-{
-    bool sent = false;
-    for (const IXMLDOMNode& name :
-         mStore.document().selectNodes("./data:dtm/data:requestGroups/data:requestGroup/@name")) {
-        sent = readGroup(name.get_text());
-        if (!sent) {
-            break;
-        }
-    }
-    return sent;
-}
-
 std::string ShellMessenger::GetHostDocument(const std::string& name)
 {
     return mHostDocuments.get(name);
@@ -233,54 +165,8 @@ bool ShellMessenger::SetHostDocument(const std::string& name, const std::string&
         ShowMessage("error", failure.description());
         return false;
     }
-    emit hostDocumentKept(qString(name));
+    emit hostDocumentKept(toQt(name));
     return true;
-}
-
-bool ShellMessenger::clearConfigurationChanged()
-{
-    return sendToDevice(emptyRequest(kClearRequest, "act"), "act");
-}
-
-bool ShellMessenger::maySend(const std::string& access)
-{
-    if (!mOnline) {
-        ShowMessage("error", "shell_offlineNoRequest");
-        return false;
-    }
-    if (access != "read" && mUserLevel < kMaintenanceLevel) {
-        ShowMessage("error", "shell_userLevelTooLow");
-        return false;
-    }
-    return true;
-}
-
-bool ShellMessenger::sendToDevice(const std::string& requestXml, const std::string& access)
-{
-    if (!maySend(access)) {
-        return false;
-    }
-    mKept.push_back(!documents::openText(requestXml)
-                         .selectSingleNode("//*[local-name()='communicationRequest' and "
-                                           "@datasetSave='0']"));
-    mLink.send(requestXml);
-    return true;
-}
-
-void ShellMessenger::SendCommunicationRequest(const std::string& requestXml, const std::string&)
-{
-    const IXMLDOMDocument document = documents::openText(requestXml);
-    const std::string     access =
-        document.selectSingleNode("//*[local-name()='communicationRequest']/@access").get_text();
-    if (mOnline || access != "writeOffline") {
-        mStore.keepSent(document);
-        sendToDevice(requestXml, access);
-        return;
-    }
-    mStore.accept(document);
-    tellMasks(document);
-    mAccepted = true;
-    tellAccepted();
 }
 
 std::string ShellMessenger::GetDatasetXml()
@@ -288,118 +174,20 @@ std::string ShellMessenger::GetDatasetXml()
     return mStore.isOpen() ? mStore.document().get_xml() : std::string{};
 }
 
-bool ShellMessenger::ExecuteCommunicationRequest(const std::string& requestXml, const std::string&,
-                                                 std::int16_t, std::int16_t)
-{
-    const IXMLDOMDocument document = documents::openText(requestXml);
-    return sendToDevice(
-        requestXml,
-        document.selectSingleNode("//*[local-name()='communicationRequest']/@access").get_text());
-}
-
-bool ShellMessenger::ExecuteNamedRequest(const std::string& requestName, const std::string&,
-                                         std::int16_t, std::int16_t)
-{
-    return readGroup(requestName);
-}
-
-std::int32_t ShellMessenger::GetCommunicationMode()
-{
-    if (mLink.isBusy()) {
-        return kEditingBarred;
-    }
-    return mOnline ? kOnline : kOffline;
-}
-
-void ShellMessenger::raiseMode()
-{
-    const std::int32_t mode = GetCommunicationMode();
-    ViewSetCommunicationMode.raise(mode);
-    emit communicationModeChanged(mode);
-}
-
-void ShellMessenger::takeResponse(const QString& xml)
-{
-    const IXMLDOMDocument response = documents::openText(xml.toStdString());
-    const bool            isKept   = mKept.empty() || mKept.front();
-    // Answers come in the order of their requests.
-    if (!mKept.empty() && documents::responseAttribute(response, "isFinal") == "1") {
-        mKept.pop_front();
-    }
-    if (isKept) {
-        mStore.beginResponse(response, ReadBy::user);
-    }
-    handOut(response);
-}
-
-void ShellMessenger::forgetRequests()
-{
-    mKept.clear();
-    mLink.cancel();
-    mBeside.cancel();
-}
-
-void ShellMessenger::takeResponseBeside(const QString& xml)
-{
-    const IXMLDOMDocument response = documents::openText(xml.toStdString());
-    mStore.beginResponse(response, ReadBy::program);
-    handOut(response);
-}
-
-void ShellMessenger::handOut(const IXMLDOMDocument& response)
-{
-    const std::string status = documents::responseAttribute(response, "responseStatus");
-    if (status == "ok" || status == "local") {
-        emit onlineDataArrived(response);
-        tellMasks(response);
-        tellOperationTime(response);
-    } else {
-        emit errorDataArrived(response);
-    }
-    mStore.endResponse();
-}
-
-void ShellMessenger::tellMasks(const IXMLDOMNode& message)
-{
-    for (const IXMLDOMNode& item :
-         message.selectNodes("//*[local-name()='item' and starts-with(@name,'statusMask')]")) {
-        ViewReceiveValue.raise(documents::attributeText(item, "name"), item.get_text());
-    }
-}
-
-void ShellMessenger::tellOperationTime(const IXMLDOMNode& response)
-{
-    const IXMLDOMNode item = documents::findItem(response, "totalOperationTime");
-    if (!item || item.get_text().empty()) {
-        return;
-    }
-    ViewReceiveValue.raise("ctr_totalOperationTime", item.get_text());
-    ViewReceiveValue.raise("date_counters", eventLog::dateText(platform::Toolkit::current().now()));
-}
-
 void ShellMessenger::SetParameterState(const std::string& parameterName, const std::string& state)
 {
     mStore.setParameterState(parameterName, state);
-    emit parameterStateChanged(qString(parameterName), qString(state));
+    emit parameterStateChanged(toQt(parameterName), toQt(state));
 }
 
 std::string ShellMessenger::GetInstallPath()
 {
-    if (mFolder.empty() && !mTemporaryFolder) {
-        mTemporaryFolder.emplace();
+    try {
+        mInstallFolder.prepare();
+    } catch (const platform::Failure& failure) {
+        ShowMessage("error", failure.description());
     }
-    const std::string base =
-        mFolder.empty() ? mTemporaryFolder->path().toStdString() + '/' : mFolder;
-    const std::string result = base + "install/";
-    if (!mIsInstalled) {
-        mIsInstalled = true; // or a folder that cannot be written would be told each time
-        try {
-            installDocuments(result);
-        } catch (const platform::Failure& failure) {
-            ShowMessage("error", failure.description());
-        }
-    }
-    return result;
+    return mInstallFolder.path();
 }
 
 std::string ShellMessenger::GetWorkPath()
@@ -463,44 +251,14 @@ void ShellMessenger::SetCombinedStatus(std::int16_t, const std::string& text)
     }
 }
 
-void ShellMessenger::SetDownloadPhase(std::int16_t phase)
-{
-    mDownloading = phase == kBeforeDownload;
-    emit downloadPhaseChanged(phase);
-    tellAccepted();
-}
-
-void ShellMessenger::tellAccepted()
-{
-    // One change of the datafile however many request groups were accepted.
-    if (!mDownloading && mAccepted) {
-        mAccepted = false;
-        emit datafileChanged();
-    }
-}
-
 void ShellMessenger::TransferFocus()
 {
     emit focusTransferred();
 }
 
-void ShellMessenger::NotifyDialog(std::int16_t phase)
-{
-    emit dialogNotified(phase);
-    if (phase == kConfigurationEnds) {
-        // Not from within the response that may have ended it. What the device did not take is
-        // dropped with the configuration: view and datafile show what it has.
-        QTimer::singleShot(0, this, [this] {
-            if (mOnline && mStore.hasSent()) {
-                readGroup(kMasksRequest);
-            }
-        });
-    }
-}
-
 void ShellMessenger::WriteLog(std::int16_t category, const std::string& text)
 {
-    emit logWritten(QChar{static_cast<char16_t>(category)}, qString(text));
+    emit logWritten(QChar{static_cast<char16_t>(category)}, toQt(text));
 }
 
 void ShellMessenger::RefreshData()
@@ -527,7 +285,7 @@ void ShellMessenger::ReportErrorObject(const std::string& where, std::int32_t nu
 void ShellMessenger::ReportError(const std::string& where, std::int32_t number,
                                  const std::string& description)
 {
-    emit errorReported(qString(where), number, qString(description));
+    emit errorReported(toQt(where), number, toQt(description));
 }
 
 void ShellMessenger::ShowMessage(const std::string& titleKey, const std::string& messageKey)
@@ -542,7 +300,7 @@ void ShellMessenger::ShowMessage(const std::string& titleKey, const std::string&
 
 void ShellMessenger::ReportProblem(const std::string& text, const std::string&)
 {
-    emit logWritten(QChar{static_cast<char16_t>(kLogConfiguration)}, qString(text));
+    emit logWritten(QChar{static_cast<char16_t>(kLogConfiguration)}, toQt(text));
 }
 
 } // namespace quill::shell

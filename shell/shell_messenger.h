@@ -6,31 +6,21 @@
 #include "shell/device.h"
 #include "shell/device_link.h"
 #include "shell/host_documents.h"
+#include "shell/install_folder.h"
 #include "shell/samples.h"
 #include "shell/translator.h"
 #include "shell/units.h"
 #include "shell/user_address_service.h"
+#include "shell/user_dialogs.h"
 
 #include <QObject>
 #include <QString>
-#include <QTemporaryDir>
 
 #include <deque>
-#include <map>
 #include <optional>
 #include <string>
 
 namespace quill::shell {
-
-/// Who shows messages and asks questions: a window, or a script.
-class UserDialogs {
-public:
-    virtual ~UserDialogs() = default;
-    /// Both texts are translated.
-    virtual void showMessage(const QString& title, const QString& text) = 0;
-    /// Whether the user said yes.
-    virtual bool askQuestion(const QString& title, const QString& text) = 0;
-};
 
 /// The shell's side of the host contract: puts store, device, texts and units together, and turns
 /// what the controls tell into signals for the window. It owns them all; views must be released
@@ -186,7 +176,8 @@ signals:
 private:
     /// Whether a request of this access may go out now; the user is told why not.
     bool maySend(const std::string& access);
-    bool sendToDevice(const std::string& requestXml, const std::string& access);
+    /// `request` is the document of the text.
+    bool sendToDevice(const std::string& requestXml, const IXMLDOMDocument& request);
     void connectDevice();
     void takeResponse(const QString& xml);
     void takeResponseBeside(const QString& xml);
@@ -202,31 +193,29 @@ private:
     void raiseMode();
     void tellAccepted();
 
-    DatafileStore                mStore;
-    SimulatedDevice              mDevice;
-    DeviceLink                   mLink{mDevice};
-    DeviceLink                   mBeside{mDevice}; ///< for what bars no editing
-    std::deque<bool>             mKept; ///< by request: its answer goes into the datafile
-    DeviceAddressService         mAddresses{mDevice, [this] { return mOnline; }};
-    UserAddressService           mUserAddresses;
-    CatalogueTranslator          mTexts;
-    HartUnitConverter            mUnits;
-    ChangeLabels                 mChangeLabels;
-    HostDocuments                mHostDocuments;
-    std::string                  mFolder;
-    std::optional<QTemporaryDir> mTemporaryFolder;
-    bool                         mIsInstalled = false;
-    std::string                  mDeviceType;
-    UserDialogs*                 mDialogs        = nullptr;
-    bool                         mOnline         = false;
-    std::int16_t                 mUserLevel      = kMaintenanceLevel;
-    std::int16_t                 mClassification = kClassSeverity;
-    std::optional<std::int16_t>  mFixedClassification;
-    IXMLDOMDocument              mTypeInfo;
-    std::string                  mCombinedStatus;
-    bool                         mConfigurationChanged = false;
-    bool                         mDownloading          = false;
-    bool                         mAccepted             = false;
+    DatafileStore               mStore;
+    SimulatedDevice             mDevice;
+    DeviceLink                  mLink{mDevice};
+    DeviceLink                  mBeside{mDevice}; ///< for what bars no editing
+    std::deque<bool>            mKept;            ///< by request: its answer goes into the datafile
+    DeviceAddressService        mAddresses{mDevice, [this] { return mOnline; }};
+    UserAddressService          mUserAddresses;
+    CatalogueTranslator         mTexts;
+    HartUnitConverter           mUnits;
+    ChangeLabels                mChangeLabels;
+    HostDocuments               mHostDocuments;
+    InstallFolder               mInstallFolder;
+    std::string                 mDeviceType;
+    UserDialogs*                mDialogs        = nullptr;
+    bool                        mOnline         = false;
+    std::int16_t                mUserLevel      = kMaintenanceLevel;
+    std::int16_t                mClassification = kClassSeverity;
+    std::optional<std::int16_t> mFixedClassification;
+    IXMLDOMDocument             mTypeInfo;
+    std::string                 mCombinedStatus;
+    bool                        mConfigurationChanged = false;
+    bool                        mDownloading          = false;
+    bool                        mAccepted             = false;
 };
 
 } // namespace quill::shell

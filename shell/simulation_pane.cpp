@@ -51,6 +51,7 @@ SimulationPane::SimulationPane(ShellMessenger& messenger, QWidget* parent)
     mTree->setItemDelegate(new qt::RoomyRows(mTree));
     mTree->setIndentation(14);
     mTree->setUniformRowHeights(true);
+    mTree->setAllColumnsShowFocus(true); // as its rows leave the cursor to it
     mTree->setFrameShape(QFrame::NoFrame);
     mTree->setTabKeyNavigation(false);
     mTree->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
@@ -132,6 +133,8 @@ void SimulationPane::buildControls(QFormLayout& form)
     mCurrent->setSuffix(QStringLiteral(" mA"));
     mCurrent->setValue(kMiddle);
     mCurrent->setEnabled(false);
+    // A row's name stands at its top otherwise, above the middle of a higher box.
+    mFixed->setMinimumHeight(mCurrent->sizeHint().height());
     form.addRow(mFixed, mCurrent);
     connect(mFixed, &QCheckBox::toggled, this, &SimulationPane::drive);
     connect(mCurrent, &QDoubleSpinBox::valueChanged, this, &SimulationPane::drive);
@@ -205,6 +208,8 @@ void SimulationPane::rebuild()
     {
         const QSignalBlocker quiet(mTree);
         fillTree();
+        // A place for the keyboard to come to.
+        mTree->setCurrentItem(mTree->topLevelItem(0), 0, QItemSelectionModel::NoUpdate);
     }
     const bool valve = model() != nullptr;
     mFriction->setEnabled(valve);

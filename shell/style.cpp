@@ -16,7 +16,7 @@ struct Colors {
     QColor window, card, base, button, text, faint, line, accent, onAccent, link;
 };
 
-const Colors kLight = {QColor(0xf1f3f5), QColor(0xfcfdfd), QColor(0xffffff), QColor(0xf8f9fa),
+const Colors kLight = {QColor(0xf1f3f5), QColor(0xffffff), QColor(0xffffff), QColor(0xf8f9fa),
                        QColor(0x1c2329), QColor(0x7b858e), QColor(0xc9d0d6), QColor(0x0b6b82),
                        QColor(0xffffff), QColor(0x0b6b82)};
 const Colors kDark  = {QColor(0x1d2125), QColor(0x25292e), QColor(0x16191c), QColor(0x2d3238),
@@ -34,6 +34,26 @@ void drawRowFocus(const QStyleOption& option, QPainter& painter)
     painter.setPen(palette.color(chosen ? QPalette::HighlightedText : QPalette::Highlight));
     painter.setBrush(Qt::NoBrush);
     painter.drawRect(option.rect.adjusted(1, 1, -2, -2));
+    painter.restore();
+}
+
+bool hasFocus(const QStyleOption& option)
+{
+    constexpr auto kBoth = QStyle::State_HasFocus | QStyle::State_Enabled;
+    return (option.state & kBoth) == kBoth;
+}
+
+/// Around what has the focus, wide enough to be seen at a glance.
+void drawFocusRing(const QStyleOption& option, const QRect& rect, QPainter& painter)
+{
+    constexpr qreal kWidth  = 2;
+    constexpr qreal kRadius = 2.5;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(option.palette.color(QPalette::Active, QPalette::Highlight), kWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRoundedRect(QRectF(rect).adjusted(kWidth / 2, kWidth / 2, -kWidth / 2, -kWidth / 2),
+                            kRadius, kRadius);
     painter.restore();
 }
 
@@ -90,7 +110,15 @@ void applyStyle(ColorScheme scheme)
     if (qobject_cast<ShellStyle*>(QApplication::style()) == nullptr) {
         QApplication::setStyle(new ShellStyle);
     }
-    QApplication::setPalette(shellPalette(scheme));
+    const QPalette palette = shellPalette(scheme);
+    QApplication::setPalette(palette);
+    // What the window itself holds of boxes and buttons gets the edges that the views' have.
+    QPalette edged(palette);
+    edged.setColor(QPalette::Window, qt::outlineColor(palette));
+    for (const char* kind :
+         {"QComboBox", "QAbstractSpinBox", "QLineEdit", "QPushButton", "QRadioButton", "QSlider"}) {
+        QApplication::setPalette(edged, kind);
+    }
 }
 
 ShellStyle::ShellStyle() : QProxyStyle(QStyleFactory::create(QStringLiteral("Fusion"))) {}
@@ -104,6 +132,16 @@ void ShellStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
         QStyleOptionSpinBox full(*spin);
         full.rect.adjust(0, -1, 0, 1);
         QProxyStyle::drawComplexControl(control, &full, painter, widget);
+        if (hasFocus(*option)) {
+            drawFocusRing(*option, option->rect, *painter);
+        }
+        return;
+    }
+    if (control == CC_ComboBox || control == CC_Slider) {
+        QProxyStyle::drawComplexControl(control, option, painter, widget);
+        if (hasFocus(*option)) {
+            drawFocusRing(*option, option->rect, *painter);
+        }
         return;
     }
     const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
@@ -139,14 +177,32 @@ void ShellStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
 void ShellStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* option,
                                QPainter* painter, const QWidget* widget) const
 {
+    if (element == PE_IndicatorBranch && (option->state & State_Selected) != 0) {
+        // The arrow stands on the ground of the chosen row, as its text does.
+        QStyleOption chosen(*option);
+        const QColor text = option->palette.color(QPalette::HighlightedText);
+        for (const auto role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+            chosen.palette.setColor(role, text);
+        }
+        QProxyStyle::drawPrimitive(element, &chosen, painter, widget);
+        return;
+    }
     // Trees draw the focus of a whole row without telling themselves.
     if (element == PE_FrameFocusRect &&
         (widget == nullptr || qobject_cast<const QAbstractItemView*>(widget) != nullptr)) {
         drawRowFocus(*option, *painter);
         return;
     }
+    if (element == PE_FrameFocusRect) {
+        drawFocusRing(*option, option->rect, *painter);
+        return;
+    }
     if (element != PE_IndicatorCheckBox && element != PE_IndicatorItemViewItemCheck) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
+        if ((element == PE_FrameLineEdit || element == PE_PanelButtonCommand) &&
+            hasFocus(*option)) {
+            drawFocusRing(*option, option->rect, *painter);
+        }
         return;
     }
     constexpr qreal kRadius = 2.5;
@@ -219,8 +275,16 @@ int ShellStyle::pixelMetric(PixelMetric metric, const QStyleOption* option,
     case PM_IndicatorHeight: return 16;
     case PM_SmallIconSize: return 18;
     case PM_ToolBarIconSize: return 20;
+    case PM_HeaderMargin: return 4; // titles stand above what is in the rows
     default: return QProxyStyle::pixelMetric(metric, option, widget);
     }
+}
+
+int ShellStyle::styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                          QStyleHintReturn* data) const
+{
+    // On a dark ground the light copy below a disabled text blurs it.
+    return hint == SH_EtchDisabledText ? 0 : QProxyStyle::styleHint(hint, option, widget, data);
 }
 
 } // namespace quill::shell

@@ -15,8 +15,9 @@ enum class ColorScheme { light, dark };
 /// Gives the application the shell's style and colours.
 void applyStyle(ColorScheme scheme);
 
-/// Fusion with group boxes as cards, a bold title on a plain ground with a fine edge, and with
-/// check boxes and signs of its own that show on a dark ground too.
+/// Fusion with group boxes as cards, a bold title on a plain ground with a fine edge, with check
+/// boxes and signs of its own that show on a dark ground too, and with a ring around whatever has
+/// the focus.
 class ShellStyle : public QProxyStyle {
     Q_OBJECT
 
@@ -31,6 +32,8 @@ public:
                                      const QWidget* widget) const override;
     [[nodiscard]] int   pixelMetric(PixelMetric metric, const QStyleOption* option,
                                     const QWidget* widget) const override;
+    int                 styleHint(StyleHint hint, const QStyleOption* option, const QWidget* widget,
+                                  QStyleHintReturn* data) const override;
 };
 
 } // namespace quill::shell

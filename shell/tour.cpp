@@ -4,6 +4,7 @@
 #include "editors/CtrDateEdit.h"
 #include "editors/CtrTextEdit.h"
 #include "framework/values.h"
+#include "qt/text.h"
 #include "shell/tour_actions.h"
 #include "shell/tour_guide.h"
 #include "shell/tour_status.h"
@@ -18,6 +19,8 @@ namespace quill::shell {
 
 namespace {
 
+using qt::toQt;
+
 // One parameter of each kind; the text and the date belong to the request group "maintenance", the
 // combo to "signal". The device keeps the interval in days, the datafile in hours.
 constexpr const char* kText   = "strokeTestInterval";
@@ -27,15 +30,10 @@ constexpr const char* kTime   = "dailyTestTime";
 constexpr const char* kFirst  = "supplyLowPressure";
 constexpr const char* kSecond = "supplyHighPressure";
 
-QString q(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
-
 /// A number as documents write it.
 double number(const std::string& text)
 {
-    return q(text).toDouble();
+    return toQt(text).toDouble();
 }
 
 /// The number in a box, in the user's own form.
@@ -49,15 +47,16 @@ void openTheDatafile(TourGuide& guide)
     auto& window = guide.window();
     for (const auto& page : window.book().pages()) {
         window.showPage(page->Tag);
-        guide.check(window.book().shownPage() == page.get(), "page " + q(page->Tag) + " is shown");
-        guide.picture(q(page->Tag) + "-offline");
+        guide.check(window.book().shownPage() == page.get(),
+                    "page " + toQt(page->Tag) + " is shown");
+        guide.picture(toQt(page->Tag) + "-offline");
     }
     window.showPage("configuration");
     const auto& text = guide.editor<CtrTextEdit>(kText);
     guide.check(text.Text().starts_with("720") && text.Unit() == "h",
                 "the interval of the stroke test is 720 h");
     guide.check(text.txtBox.ToolTipText.get().find("8760") != std::string::npos,
-                "its tool tip tells the limits: " + q(text.txtBox.ToolTipText));
+                "its tool tip tells the limits: " + toQt(text.txtBox.ToolTipText));
     guide.check(guide.editor<CtrComboEdit>(kCombo).Text() == "Equal percentage",
                 "the characteristic is \"Equal percentage\"");
     guide.check(guide.editor<CtrDateEdit>(kDate).Text() == "5.4.2024",
@@ -87,7 +86,7 @@ void readTheRequestGroups(TourGuide& guide)
     const auto& low = guide.editor<CtrTextEdit>(kFirst);
     guide.check(window.messenger().device().find(kFirst)->unit == "psi" && low.Unit() == "bar",
                 "the device speaks psi, the editor shows bar");
-    guide.check(number(low) == 3.45, "50 psi came as " + q(low.Text()) + " bar");
+    guide.check(number(low) == 3.45, "50 psi came as " + toQt(low.Text()) + " bar");
     guide.check(guide.heard().states.contains(QString(kFirst) + " sync"),
                 "the editor reported \"sync\"");
 
@@ -133,7 +132,7 @@ void editTheValues(TourGuide& guide)
     picker.setFocus();
     userInput::press(picker, Qt::Key_Up);
     guide.check(date.Modified() && date.Text() != "15.9.2026",
-                "the arrow key chose another date: " + q(date.Text()));
+                "the arrow key chose another date: " + toQt(date.Text()));
     guide.picture("configuration-edited");
 }
 
@@ -157,13 +156,13 @@ void downloadTheChanges(TourGuide& guide)
     const auto lists = [&](const char* parameter, const QString& before, const QString& after) {
         const auto* item  = row(parameter);
         const bool  holds = item != nullptr && item->Checked &&
-                           q(item->SubItems.at(0)).startsWith(before) &&
-                           q(item->SubItems.at(1)).startsWith(after);
+                           toQt(item->SubItems.at(0)).startsWith(before) &&
+                           toQt(item->SubItems.at(1)).startsWith(after);
         guide.check(holds, QString("it lists %1: %2 -> %3").arg(parameter, before, after));
     };
     lists(kText, "672", "1000");
     lists(kCombo, "Linear", "Equal percentage");
-    lists(kDate, "15.9.2026", q(newDate));
+    lists(kDate, "15.9.2026", toQt(newDate));
     guide.picture("pending-changes", 1, &dialog);
 
     guide.forget();
@@ -177,7 +176,7 @@ void downloadTheChanges(TourGuide& guide)
     guide.check(device.find(kCombo)->value == "1", "the device has the characteristic");
     guide.check(device.find(kDate)->value == newDate, "the device has the date");
     guide.check(std::abs(number(device.find(kText)->value) - 1000.0 / 24) < 1e-3,
-                "the device has 1000 h as " + q(device.find(kText)->value) + " d");
+                "the device has 1000 h as " + toQt(device.find(kText)->value) + " d");
     for (const char* parameter : {kText, kCombo, kDate}) {
         const auto& editor = guide.editor<EditorBase>(parameter);
         guide.check(!editor.Modified() && editor.Correct(),
@@ -275,7 +274,7 @@ void switchLanguagesAndColours(TourGuide& guide)
     const auto english = caption();
     window.setLanguage("German");
     const auto german = caption();
-    guide.check(german != english, "the labels are German: " + q(german));
+    guide.check(german != english, "the labels are German: " + toQt(german));
     guide.picture("configuration-german");
     window.setScheme(ColorScheme::dark);
     guide.clickCommand("changes");
@@ -284,7 +283,7 @@ void switchLanguagesAndColours(TourGuide& guide)
     window.setScheme(ColorScheme::light);
     window.setLanguage("Finnish");
     guide.check(caption() != german && caption() != english,
-                "the labels are Finnish: " + q(caption()));
+                "the labels are Finnish: " + toQt(caption()));
     guide.picture("configuration-finnish");
     window.setScheme(ColorScheme::dark);
     guide.picture("configuration-finnish-dark-192dpi", 2);
@@ -335,7 +334,7 @@ int takeTour(const Options& options)
         try {
             step.take(guide);
         } catch (const platform::Failure& failure) {
-            guide.check(false, q(failure.description()));
+            guide.check(false, toQt(failure.description()));
         }
     }
     return guide.finish() ? 0 : 1;

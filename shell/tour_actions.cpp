@@ -8,6 +8,7 @@
 #include "editors/CtrOptionEdit.h"
 #include "editors/CtrTextEdit.h"
 #include "editors/CtrTimeEdit.h"
+#include "qt/text.h"
 #include "records/CtrEventLog.h"
 #include "shell/device_actions.h"
 #include "shell/device_events.h"
@@ -24,10 +25,7 @@ namespace quill::shell {
 
 namespace {
 
-QString q(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
+using qt::toQt;
 
 SimulatedDevice& deviceOf(TourGuide& guide)
 {
@@ -79,9 +77,9 @@ void readWholeLog(TourGuide& guide, const QString& sample)
     guide.clickCommand("readPage");
     guide.waitForDevice();
     guide.check(view.cmdNext.Enabled, sample + ": the newest events are there, and there are more");
-    guide.check(view.lblOperationTime[0].Caption.get().find_first_of("123456789") !=
-                    std::string::npos,
-                "the total operation time is told: " + q(view.lblOperationTime[0].Caption) + " h");
+    guide.check(
+        view.lblOperationTime[0].Caption.get().find_first_of("123456789") != std::string::npos,
+        "the total operation time is told: " + toQt(view.lblOperationTime[0].Caption) + " h");
     guide.check(!eventLog::column(view.lsvEventLog.Item(1), eventLog::kDate).empty(),
                 "each event has its date");
     guide.picture("event-log-" + sample.toLower());
@@ -145,7 +143,8 @@ void editTheOptions(TourGuide& guide)
     auto& option   = guide.editor<CtrOptionEdit>("failsafeAction");
     auto& interval = guide.editor<CtrTimeEdit>("serviceInterval");
     auto& checks   = guide.editor<CtrCheckEdit>("alarmMask");
-    guide.check(option.Text() == "Move open", "the device's choice is marked: " + q(option.Text()));
+    guide.check(option.Text() == "Move open",
+                "the device's choice is marked: " + toQt(option.Text()));
     guide.check(interval.txtBox[0].Text.get() == "200" && interval.txtBox[1].Text.get() == "0",
                 "the service interval is 200 days");
     guide.check(checks.originalValue() == "19", "the device's alarms are checked");
@@ -173,9 +172,9 @@ void editTheOptions(TourGuide& guide)
     guide.waitForDevice();
     guide.check(inDevice(guide, "failsafeAction") == "0", "the device has the choice");
     guide.check(inDevice(guide, "alarmMask") == "23",
-                "the device has the alarms: " + q(inDevice(guide, "alarmMask")));
-    guide.check(std::abs(q(inDevice(guide, "serviceInterval")).toDouble() - 100) < 1e-3,
-                "the device has the interval: " + q(inDevice(guide, "serviceInterval")) + " d");
+                "the device has the alarms: " + toQt(inDevice(guide, "alarmMask")));
+    guide.check(std::abs(toQt(inDevice(guide, "serviceInterval")).toDouble() - 100) < 1e-3,
+                "the device has the interval: " + toQt(inDevice(guide, "serviceInterval")) + " d");
     guide.check(!option.Modified() && !interval.Modified() && !checks.Modified(),
                 "the signs have gone");
 }
@@ -195,13 +194,13 @@ void resetTheDevice(TourGuide& guide)
     auto& view = guide.view<CtrReset>("reset");
     step(guide, view.cceReset[1].cboBox, Qt::Key_Down);
     guide.check(view.cceReset[1].Text() == "Counters",
-                "the counters are chosen: " + q(view.cceReset[1].Text()));
+                "the counters are chosen: " + toQt(view.cceReset[1].Text()));
     const std::string before = inDevice(guide, "cycleCounter");
     guide.dialogs().boxes.clear();
     guide.dialogs().answers.push_back(false);
     userInput::click(guide.shown(view.cmdReset));
     guide.check(guide.dialogs().boxes.size() == 1, "the shell asks first");
-    guide.check(inDevice(guide, "cycleCounter") == before, "a no leaves them: " + q(before));
+    guide.check(inDevice(guide, "cycleCounter") == before, "a no leaves them: " + toQt(before));
     guide.picture("reset-chosen");
     guide.dialogs().answers.push_back(true);
     userInput::click(guide.shown(view.cmdReset));
@@ -333,7 +332,7 @@ void chooseAModule(TourGuide& guide)
     const std::string chosen = view().ModuleSelection.Text();
     userInput::click(guide.shown(view().cmdSetSelection));
     guide.check(document() != before && document().find(chosen) != std::string::npos,
-                "the bus configuration has \"" + q(chosen) + "\"");
+                "the bus configuration has \"" + toQt(chosen) + "\"");
     guide.check(document().find("C68484080508") != std::string::npos, "with its configuration");
     guide.picture("module-chosen");
     guide.startAnew();
@@ -370,11 +369,11 @@ void changeTheSettings(TourGuide& guide)
     userInput::click(shown(control.cmdApply));
     userInput::settle();
     guide.check(dialog.isVisible() && caption() != english,
-                "applied, the window is German: " + q(caption()));
+                "applied, the window is German: " + toQt(caption()));
     guide.picture("settings-applied", 1, &dialog);
     userInput::click(shown(control.cmdOK));
     guide.check(!dialog.isVisible(), "the dialog has gone");
-    guide.check(unit() == "psi", "pressures are in " + q(unit()));
+    guide.check(unit() == "psi", "pressures are in " + toQt(unit()));
     guide.check(guide.window().messenger().GetStatusClassification() == kClassNAMUR,
                 "conditions are classified by NAMUR");
     guide.picture("settings-in-force");

@@ -1,5 +1,6 @@
 #include "shell/tour_status.h"
 
+#include "qt/text.h"
 #include "shell/device_physics.h"
 #include "shell/device_status.h"
 #include "shell/status_sign.h"
@@ -15,6 +16,8 @@ namespace quill::shell {
 
 namespace {
 
+using qt::toQt;
+
 constexpr const char* kStatus        = "status";
 constexpr const char* kConfiguration = "statusConfiguration";
 constexpr const char* kSupplyLow     = "statusSupplyPressureLow";
@@ -26,11 +29,6 @@ constexpr const char* kChanged       = "statusHARTConfigurationChanged";
 
 /// Seconds in which every condition has come or gone.
 constexpr double kAWhile = 60;
-
-QString q(const std::string& text)
-{
-    return QString::fromStdString(text);
-}
 
 /// The view that fills a page.
 template <class View>
@@ -79,7 +77,7 @@ void simulate(TourGuide& guide, const std::string& name)
     }
     const auto before = item->checkState(0);
     userInput::clickRow(pane.tree(), pane.tree().indexFromItem(item));
-    guide.check(item->checkState(0) != before, "a click on its check box switches " + q(name));
+    guide.check(item->checkState(0) != before, "a click on its check box switches " + toQt(name));
 }
 
 /// Time goes by, then the user reads the page.
@@ -223,10 +221,11 @@ void configureOnline(TourGuide& guide)
     guide.waitForDevice();
     guide.check(guide.heard().responses.contains("write deviceStatusMasks ok"),
                 "the masks were written");
-    guide.check(
-        valueIn(guide, "statusMask2") != before2 && valueIn(guide, "statusMask3") != before3,
-        "the device has other masks: " + q(before2) + " -> " + q(valueIn(guide, "statusMask2")) +
-            ", " + q(before3) + " -> " + q(valueIn(guide, "statusMask3")));
+    guide.check(valueIn(guide, "statusMask2") != before2 &&
+                    valueIn(guide, "statusMask3") != before3,
+                "the device has other masks: " + toQt(before2) + " -> " +
+                    toQt(valueIn(guide, "statusMask2")) + ", " + toQt(before3) + " -> " +
+                    toQt(valueIn(guide, "statusMask3")));
     guide.check(guide.inDocument("statusMask2", "value") == valueIn(guide, "statusMask2") &&
                     guide.inDocument("statusMask3", "value") == valueIn(guide, "statusMask3") &&
                     guide.inDocument("statusMask3", "synchronised") == "1",
@@ -274,7 +273,8 @@ void configureOffline(TourGuide& guide)
     guide.check(!view.IsConfiguring(), "the configuration is over");
     const std::string accepted = guide.inDocument("statusMask1", "value");
     guide.check(accepted != before && guide.inDocument("statusMask1", "synchronised") == "0",
-                "the datafile has the mask, out of step: " + q(before) + " -> " + q(accepted));
+                "the datafile has the mask, out of step: " + toQt(before) + " -> " +
+                    toQt(accepted));
     guide.check(valueIn(guide, "statusMask1") == before, "the device has not heard of it");
     guide.clickCommand("save");
     guide.check(guide.onDisk("statusMask1", "value") == accepted, "the file has it too");
@@ -327,9 +327,10 @@ void showStatusInAllLanguages(TourGuide& guide)
     simulate(guide, "faultCoverOpen");
     liveAndRead(guide);
     const auto row = [&] {
-        return q(viewOn<StatusTreeView>(guide, kStatus)
-                     .scgStatus.cell(rowOf(viewOn<StatusTreeView>(guide, kStatus), kSupplyLow), 1)
-                     .Text);
+        return toQt(
+            viewOn<StatusTreeView>(guide, kStatus)
+                .scgStatus.cell(rowOf(viewOn<StatusTreeView>(guide, kStatus), kSupplyLow), 1)
+                .Text);
     };
     QStringList seen;
     for (const auto& [language, scheme] :

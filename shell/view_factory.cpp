@@ -4,8 +4,8 @@
 #include "actions/CtrMACalibration.h"
 #include "actions/CtrModuleSelection.h"
 #include "actions/CtrReset.h"
-#include "platform/toolkit.h"
 #include "records/CtrEventLog.h"
+#include "shell/view_arrangement.h"
 #include "status/CtrStatus.h"
 #include "status/CtrStatusF.h"
 
@@ -50,72 +50,61 @@ void fetchAddress(platform::Control& view)
     }
 }
 
-/// The list's columns fill it as long as it has no bar at its side. A log has one nearly always,
-/// and what is cut of the last column would need a second one below.
-void fitEventColumn(platform::Control& view)
-{
-    constexpr std::int32_t kBar    = 360;
-    constexpr int          kEvent  = 2; // column, from 1
-    auto&                  list    = dynamic_cast<CtrEventLog&>(view).lsvEventLog;
-    const auto&            columns = list.ColumnHeaders();
-    std::int32_t           others  = 0;
-    for (std::size_t column = 0; column < columns.size(); ++column) {
-        others += column + 1 == kEvent ? 0 : columns[column].Width;
-    }
-    list.setColumnWidth(kEvent, std::max<std::int32_t>(list.Width - others - kBar, kBar));
-}
-
-/// The lists show every entry whole; the button stands behind them.
-void fitLists(platform::Control& view)
-{
-    constexpr std::int32_t kBeside = 780; // arrow, edges and signs
-    constexpr std::int32_t kLeast  = 3900;
-    constexpr std::int32_t kGap    = 200;
-    auto&                  reset   = dynamic_cast<CtrReset&>(view);
-    std::int32_t           width   = kLeast;
-    for (const CtrComboEdit& combo : reset.cceReset) {
-        for (const std::string& entry : combo.cboBox.List()) {
-            width = std::max(width, platform::Toolkit::current().textWidth(entry) + kBeside);
-        }
-    }
-    for (CtrComboEdit& combo : reset.cceReset) {
-        combo.Width = width;
-    }
-    reset.cmdReset.Left = reset.cceReset[0].Left + width + kGap;
-}
-
 constexpr std::array kViews = {
-    ViewKind{"CtrStatus", make<CtrStatus>, 6000, 3000},
-    ViewKind{"CtrStatusF", make<CtrStatusF>, 7500, 3000},
+    ViewKind{.name        = "CtrStatus",
+             .make        = make<CtrStatus>,
+             .leastWidth  = 6000,
+             .leastHeight = 3000,
+             .arrange     = fitStatusTree},
+    ViewKind{.name        = "CtrStatusF",
+             .make        = make<CtrStatusF>,
+             .leastWidth  = 7500,
+             .leastHeight = 3000,
+             .blank       = {0, 0, 150, 150},
+             .arrange     = fitStatusConfiguration},
     ViewKind{.name        = "CtrEventLog",
              .make        = make<CtrEventLog>,
              .leastWidth  = 9600,
-             .leastHeight = 4500,
-             .arrange     = fitEventColumn},
+             .leastHeight = 3900,
+             .blank       = {180, 180, 180, 180},
+             .keepsTexts  = true,
+             .arrange     = fitEventLog},
     ViewKind{.name         = "CtrReset",
              .make         = makeUntitled<CtrReset>,
              .leastWidth   = 10200,
-             .leastHeight  = 2400,
+             .leastHeight  = 2100,
+             .blank        = {.left = 600, .top = 750},
+             .fills        = false,
              .actsByItself = true,
-             .arrange      = fitLists},
+             .arrange      = fitResets},
     ViewKind{.name         = "CtrHartAddress",
              .make         = makeUntitled<CtrHartAddress>,
              .leastWidth   = 9600,
-             .leastHeight  = 2100,
+             .leastHeight  = 1620,
+             .blank        = {.left = 600, .top = 750},
+             .fills        = false,
              .actsByItself = true,
              .sendButton   = setButton,
-             .refresh      = fetchAddress},
-    ViewKind{.name         = "CtrMACalibration",
-             .make         = makeUntitled<CtrMACalibration>,
-             .leastWidth   = 9600,
-             .leastHeight  = 4200,
-             .actsByItself = true,
-             .hearsModes   = false,
-             .sendButton   = nextButton},
+             .refresh      = fetchAddress,
+             .arrange      = fitHartAddress},
+    ViewKind{.name          = "CtrMACalibration",
+             .make          = makeUntitled<CtrMACalibration>,
+             .leastWidth    = 9600,
+             .leastHeight   = 3690,
+             .blank         = {.left = 360, .top = 870},
+             .fills         = false,
+             .actsByItself  = true,
+             .hearsModes    = false,
+             .drivesCurrent = true,
+             .sendButton    = nextButton,
+             .arrange       = fitCalibration},
     ViewKind{.name        = "CtrModuleSelection",
              .make        = makeUntitled<CtrModuleSelection>,
              .leastWidth  = 9000,
-             .leastHeight = 2100},
+             .leastHeight = 1095,
+             .blank       = {.left = 600, .top = 705},
+             .fills       = false,
+             .arrange     = fitModuleSelection},
 };
 
 } // namespace

@@ -5,16 +5,16 @@
 #include "framework/values.h"
 #include "platform/failure.h"
 #include "shell/forwarding_messenger.h"
+#include "shell/row_metrics.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quill::shell {
 
 namespace {
 
-// Lengths in twips, as on pages of editors.
-constexpr std::int32_t kMargin = 240; ///< around the card and inside it
-constexpr std::int32_t kTitle  = 480; ///< of the card
+constexpr std::int32_t kMargin = kPageMargin;
 
 const ViewKind& kindOf(const PageDescription& description)
 {
@@ -28,11 +28,21 @@ const ViewKind& kindOf(const PageDescription& description)
 /// For a view that is not to say or to hear everything.
 class ViewMessenger : public ForwardingMessenger {
 public:
-    ViewMessenger(Messenger& other, const ViewKind& kind, bool speaks)
-        : ForwardingMessenger(other), mKind(kind), mSpeaks(speaks)
+    ViewMessenger(Messenger& other, const ViewKind& kind, bool speaks,
+                  TestCurrentWatch& testCurrent)
+        : ForwardingMessenger(other), mKind(kind), mSpeaks(speaks), mTestCurrent(testCurrent)
     {
     }
 
+    void SendCommunicationRequest(const std::string& requestXml,
+                                  const std::string& requestName) override
+    {
+        ForwardingMessenger::SendCommunicationRequest(requestXml, requestName);
+        // A host that refuses a request has nothing to do.
+        if (mKind.drivesCurrent && GetCommunicationMode() == kEditingBarred) {
+            mTestCurrent.sent(requestXml);
+        }
+    }
     void SetFixedStatusClassification(std::int16_t classification) override
     {
         if (mSpeaks) {
@@ -60,8 +70,9 @@ protected:
     [[nodiscard]] bool handsOnMode(std::int32_t) const override { return mKind.hearsModes; }
 
 private:
-    const ViewKind& mKind;
-    bool            mSpeaks;
+    const ViewKind&   mKind;
+    bool              mSpeaks;
+    TestCurrentWatch& mTestCurrent;
 };
 
 /// A document of the view's own.
@@ -74,12 +85,35 @@ IXMLDOMDocument copyOf(const IXMLDOMNode& node)
 
 ViewPage::ViewPage(platform::Widget& container, const PageDescription& description)
     : Page(container, description), mKind(kindOf(description)),
-      mCard(*this, {.Name = "card", .Tag = description.viewTag}),
-      mView(mKind.make(mCard, {.Name = description.view, .Tag = description.viewTag}))
+      mCard(*this, {.Name = "card", .Tag = description.viewTag})
 {
+    makeView();
 }
 
 ViewPage::~ViewPage() = default;
+
+void ViewPage::makeView()
+{
+    mView = mKind.make(mCard, {.Name = description().view, .Tag = description().viewTag});
+    // The card is the ground that the view stands on.
+    mView->BackColor = platform::kButtonFace;
+    for (platform::Widget* widget : mView->Widgets()) {
+        if (dynamic_cast<platform::Frame*>(widget) != nullptr) {
+            widget->BackColor = platform::kButtonFace;
+        }
+    }
+}
+
+void ViewPage::renewView()
+{
+    const Steps step{GetMessenger(), "ViewPage renewView: "};
+    mView.reset();
+    makeView();
+    if (auto* const component = dynamic_cast<IQornComponent*>(mView.get())) {
+        step([&] { component->SetMessenger(GetMessenger()); });
+    }
+    step([&] { SetOfflineData(mDatafile); });
+}
 
 bool ViewPage::isConcernedBy(const IXMLDOMNode& response) const
 {
@@ -89,31 +123,35 @@ bool ViewPage::isConcernedBy(const IXMLDOMNode& response) const
 
 void ViewPage::layOut(const PageSpace& space)
 {
-    const std::int32_t leastWidth   = mKind.leastWidth + 4 * kMargin;
-    const std::int32_t leastHeight  = mKind.leastHeight + 3 * kMargin + kTitle;
-    const bool         scrollsDown  = space.height < leastHeight;
-    const bool         scrollsRight = space.width < leastWidth;
-    const std::int32_t width        = space.width - (scrollsDown ? space.bar : 0);
-    const std::int32_t height       = space.height - (scrollsRight ? space.bar : 0);
+    const ViewKind::Blank& blank        = mKind.blank;
+    const std::int32_t     besideView   = 2 * kMargin - blank.left - blank.right;
+    const std::int32_t     aboveView    = kTitleHeight + kMargin - blank.top - blank.bottom;
+    const std::int32_t     leastWidth   = mKind.leastWidth + besideView + 2 * kMargin;
+    const std::int32_t     leastHeight  = mKind.leastHeight + aboveView + 2 * kMargin;
+    const bool             scrollsDown  = space.height < leastHeight;
+    const bool             scrollsRight = space.width < leastWidth;
+    const std::int32_t     width        = space.width - (scrollsDown ? space.bar : 0);
+    const std::int32_t     height       = space.height - (scrollsRight ? space.bar : 0);
     resize(std::max(width, leastWidth), std::max(height, leastHeight));
     mCard.Left   = kMargin;
     mCard.Top    = kMargin;
-    mCard.Width  = Width - 2 * kMargin;
-    mCard.Height = Height - 2 * kMargin;
-    mView->Left  = kMargin;
-    mView->Top   = kTitle;
-    mView->resize(mCard.Width - 2 * kMargin, mCard.Height - kTitle - kMargin);
+    mCard.Width  = (mKind.fills ? Width.get() : leastWidth) - 2 * kMargin;
+    mCard.Height = (mKind.fills ? Height.get() : leastHeight) - 2 * kMargin;
+    mView->Left  = kMargin - blank.left;
+    mView->Top   = kTitleHeight - blank.top;
+    mView->resize(mCard.Width - besideView, mCard.Height - aboveView);
     if (mKind.arrange != nullptr) {
         const Steps step{GetMessenger(), "ViewPage layOut: "};
         step([&] { mKind.arrange(*mView); });
     }
 }
 
-std::unique_ptr<Messenger> ViewPage::messengerFor(Messenger& messenger) const
+std::unique_ptr<Messenger> ViewPage::messengerFor(Messenger& messenger)
 {
     const bool isPlain = description().speaks && !mKind.actsByItself && mKind.hearsModes;
     return isPlain ? nullptr
-                   : std::make_unique<ViewMessenger>(messenger, mKind, description().speaks);
+                   : std::make_unique<ViewMessenger>(messenger, mKind, description().speaks,
+                                                     mTestCurrent);
 }
 
 void ViewPage::SetMessenger(Messenger* messenger)
@@ -134,6 +172,9 @@ void ViewPage::SetMessenger(Messenger* messenger)
 void ViewPage::follow(std::int32_t mode)
 {
     const Steps step{GetMessenger(), "ViewPage ViewSetCommunicationMode: "};
+    if (mode != kEditingBarred) {
+        mTestCurrent.forgetRequests();
+    }
     // While a transfer runs it stays as it is: who works by keyboard would lose his place.
     if (mKind.sendButton != nullptr && mode != kEditingBarred) {
         step([&] {
@@ -156,6 +197,10 @@ void ViewPage::refresh()
 
 void ViewPage::Localize(Translator& translator)
 {
+    const std::string language = translator.GetLanguage();
+    if (mKind.keepsTexts && language != std::exchange(mLanguage, language) && mDatafile) {
+        renewView();
+    }
     Page::Localize(translator);
     const Steps step{GetMessenger(), "ViewPage Localize: "};
     step([&] { mCard.Caption = translator.Translate(mCard.Tag); });
@@ -163,6 +208,7 @@ void ViewPage::Localize(Translator& translator)
 
 void ViewPage::SetOfflineData(const IXMLDOMNode& node)
 {
+    mDatafile = node;
     if (!mKind.actsByItself) {
         Page::SetOfflineData(node);
         return;
@@ -176,11 +222,42 @@ void ViewPage::SetOnlineData(const IXMLDOMNode& node)
     if (!isConcernedBy(node)) {
         return;
     }
+    mTestCurrent.answered(node);
     // Straight to the view: the walk over a page would report each time that a card takes no data.
     if (auto* const user = dynamic_cast<IQornDataUser*>(mView.get())) {
         const Steps step{GetMessenger(), "ViewPage SetOnlineData: "};
         step([&] { user->SetOnlineData(mKind.actsByItself ? copyOf(node) : node); });
     }
+}
+
+void ViewPage::SetErrorData(const IXMLDOMNode& node)
+{
+    mTestCurrent.answered(node);
+    // A wizard takes an error for the answer to its last step and goes one back. One that was left
+    // has gone to its beginning; what it could not end is told to the user by the window.
+    if (!mKind.drivesCurrent || Visible) {
+        Page::SetErrorData(node);
+    }
+}
+
+bool ViewPage::LeaveSelectedView()
+{
+    if (!Page::LeaveSelectedView()) {
+        return false;
+    }
+    letGo();
+    return true;
+}
+
+void ViewPage::letGo()
+{
+    const Steps step{GetMessenger(), "ViewPage letGo: "};
+    step([&] {
+        if (mTestCurrent.mayFlow() && existing(GetMessenger()).GetCommunicationMode() != kOffline) {
+            GetMessenger()->SendCommunicationRequest(TestCurrentWatch::endRequest(),
+                                                     TestCurrentWatch::kName);
+        }
+    });
 }
 
 void ViewPage::SetSelectedView(const std::string& name)
@@ -198,6 +275,10 @@ void ViewPage::RequestFocus()
     if (auto* const view = dynamic_cast<IQornView*>(mView.get())) {
         const Steps step{GetMessenger(), "ViewPage RequestFocus: "};
         step([&] { view->RequestFocus(); });
+        // One that leaves it to its host, or whose first part is barred at present.
+        if (!mView->HasFocus()) {
+            (void)mView->focus();
+        }
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "shell/page.h"
+#include "shell/test_current.h"
 #include "shell/view_factory.h"
 
 #include <memory>
@@ -26,25 +27,35 @@ public:
     [[nodiscard]] std::vector<std::string> groups() const override { return description().read; }
     [[nodiscard]] bool isConcernedBy(const IXMLDOMNode& response) const override;
     [[nodiscard]] bool tellsAnyError() const override { return false; }
-    /// The whole room, as long as it is not too small for the view.
+    /// The whole room, as long as it is not too small for the view; a form's card has its size.
     void layOut(const PageSpace& space) override;
+    void letGo() override;
 
     void SetMessenger(Messenger* messenger) override;
     void Localize(Translator& translator) override;
     void SetOfflineData(const IXMLDOMNode& node) override;
     void SetOnlineData(const IXMLDOMNode& node) override;
+    void SetErrorData(const IXMLDOMNode& node) override;
     void SetSelectedView(const std::string& name) override;
+    bool LeaveSelectedView() override;
     void RequestFocus() override;
 
 private:
-    [[nodiscard]] std::unique_ptr<Messenger> messengerFor(Messenger& messenger) const;
+    void makeView();
+    /// A new view with the last datafile, in the language in force.
+    void renewView();
+
+    [[nodiscard]] std::unique_ptr<Messenger> messengerFor(Messenger& messenger);
     void                                     follow(std::int32_t mode);
     void                                     refresh();
 
     const ViewKind&                    mKind;
+    TestCurrentWatch                   mTestCurrent;
     std::unique_ptr<Messenger>         mOwn; ///< of a view that is kept from something
     platform::Frame                    mCard;
     std::unique_ptr<platform::Control> mView;
+    IXMLDOMNode                        mDatafile; ///< delivered last
+    std::string                        mLanguage;
     platform::Subscription             mOnMode;
 };
 

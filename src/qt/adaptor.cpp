@@ -123,14 +123,28 @@ void Adaptor::describe(const QString& name, const QString& state)
     mWidget->setAccessibleName(name);
     mState = state;
     showToolTip();
-    mWidget->setAccessibleDescription(mWidget->toolTip());
+    mWidget->setAccessibleDescription(description(name));
+}
+
+QString Adaptor::description(const QString&) const
+{
+    return mWidget->toolTip();
+}
+
+bool Adaptor::fillsGround() const
+{
+    // White is the ground of a page. On a dark screen that is whatever the page lies on.
+    constexpr platform::Color kWhite = 0xFFFFFF;
+    return mModel->BackColor != platform::kButtonFace &&
+           !(mModel->BackColor == kWhite && isDark(mScreen->palette()));
 }
 
 void Adaptor::showColors(QPalette::ColorRole text, QPalette::ColorRole ground)
 {
     const QPalette& ours      = mScreen->palette();
     const bool      ownGround = mModel->BackColor != platform::kWindowBackground &&
-                           mModel->BackColor != platform::kButtonFace;
+                           mModel->BackColor != platform::kButtonFace &&
+                           (ground != QPalette::Window || fillsGround());
     const bool   ownText     = mModel->ForeColor != platform::kWindowText;
     const QColor shownGround = ownGround ? shownColor(mModel->BackColor, ground, ours)
                                          : ours.color(QPalette::Active, ground);
@@ -153,7 +167,7 @@ void Adaptor::showColors(QPalette::ColorRole text, QPalette::ColorRole ground)
             own.setColor(QPalette::Inactive, QPalette::Highlight, selection);
         }
     }
-    if (takesFocus() && isDark(ours) && ground != QPalette::Window) {
+    if (takesFocus() && ground != QPalette::Window) {
         own.setColor(QPalette::Window, outlineColor(ours));
     }
     if (own != mOwnPalette) {

@@ -97,6 +97,11 @@ protected:
     [[nodiscard]] virtual QString extraToolTip() const { return {}; }
     void                          showToolTip();
 
+    /// What assistive programs are told besides the name: what the tool tip tells.
+    [[nodiscard]] virtual QString description(const QString& name) const;
+
+    /// Whether the ground of a widget that the style does not paint is one of its own.
+    [[nodiscard]] bool fillsGround() const;
     /// Shows the colours of the model in these two roles. Colours that the program left alone stay
     /// the palette's. A ground other than `Window` is one that the style paints itself.
     void showColors(QPalette::ColorRole text, QPalette::ColorRole ground);

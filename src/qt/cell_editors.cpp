@@ -65,20 +65,10 @@ void CellEditors::close()
     mCell = QPersistentModelIndex();
 }
 
-const platform::Grid::Cell* CellEditors::cellAt(const QModelIndex& index) const
-{
-    const platform::Grid* const grid = mGrid();
-    const int                   row  = GridRows::rowOf(index);
-    return grid != nullptr && row >= 1 && row <= grid->RowCount() &&
-                   index.column() < grid->ColCount()
-               ? &grid->cell(row, index.column() + 1)
-               : nullptr;
-}
-
 QWidget* CellEditors::createEditor(QWidget*           parent, const QStyleOptionViewItem&,
                                    const QModelIndex& index) const
 {
-    const platform::Grid::Cell* const cell = cellAt(index);
+    const platform::Grid::Cell* const cell = GridRows::cellOf(mGrid(), index);
     if (cell == nullptr || index != mCell) {
         return nullptr;
     }

@@ -53,8 +53,7 @@ protected:
     void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override;
 
 private:
-    [[nodiscard]] const platform::Grid::Cell* cellAt(const QModelIndex& index) const;
-    [[nodiscard]] bool                        keyPressed(const QKeyEvent& event);
+    [[nodiscard]] bool keyPressed(const QKeyEvent& event);
 
     RowsTree&                              mTree;
     std::function<const platform::Grid*()> mGrid;

@@ -120,10 +120,20 @@ QColor faintColor(const QColor& text, const QColor& ground)
 QColor outlineColor(const QPalette& palette)
 {
     // The style darkens the ground of the window by 1.4 for its outlines.
-    constexpr int kStyleDarkens = 140;
-    return mixed(palette.color(QPalette::Active, Role::Window),
-                 palette.color(QPalette::Active, Role::WindowText), 0.45)
-        .lighter(kStyleDarkens);
+    constexpr int    kStyleDarkens = 140;
+    constexpr double kFirst        = 0.45;
+    constexpr int    kSteps        = 50;
+    const QColor     window        = palette.color(QPalette::Active, Role::Window);
+    const QColor     base          = palette.color(QPalette::Active, Role::Base);
+    const QColor     text          = palette.color(QPalette::Active, Role::WindowText);
+    QColor           line          = mixed(window, text, kFirst);
+    for (int step = 1; step <= kSteps; ++step) {
+        if (std::min(contrast(line, window), contrast(line, base)) >= kEdgeContrast) {
+            break;
+        }
+        line = mixed(window, text, kFirst + (1 - kFirst) * step / kSteps);
+    }
+    return line.lighter(kStyleDarkens);
 }
 
 bool isDark(const QPalette& palette)

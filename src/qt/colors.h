@@ -29,8 +29,8 @@ namespace quill::qt {
 /// Text of a box that is disabled for now: fainter than `text`, but a value that is to be read.
 [[nodiscard]] QColor faintColor(const QColor& text, const QColor& ground);
 
-/// The colour of outlines on a dark palette, which the stock style would draw darker than the
-/// ground.
+/// A colour for the role `Window` of a single widget: out of it the stock style makes outlines that
+/// are told from the ground inside and outside.
 [[nodiscard]] QColor outlineColor(const QPalette& palette);
 
 /// A palette whose texts are lighter than their grounds.
@@ -42,5 +42,7 @@ namespace quill::qt {
 
 /// Least contrast of a text that is not the palette's own.
 constexpr double kReadableContrast = 4.5;
+/// Least contrast of the edge of something that the user acts on.
+constexpr double kEdgeContrast = 3;
 
 } // namespace quill::qt

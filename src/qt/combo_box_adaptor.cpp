@@ -84,6 +84,16 @@ protected:
                    : QString{};
     }
 
+#ifdef Q_OS_UNIX
+    /// Here Qt gives a list's value for its name, so what it is called is told behind that.
+    [[nodiscard]] QString description(const QString& name) const override
+    {
+        QStringList lines{name, shown()->toolTip()};
+        lines.removeAll(QString{});
+        return lines.join(u'\n');
+    }
+#endif
+
 private:
     void showEditable()
     {

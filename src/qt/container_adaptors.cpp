@@ -37,7 +37,7 @@ public:
     {
         Adaptor::update();
         shown()->setTitle(toQt(kind().Caption));
-        shown()->setAutoFillBackground(kind().BackColor != platform::kButtonFace);
+        shown()->setAutoFillBackground(fillsGround());
         showColors(QPalette::WindowText, QPalette::Window);
     }
     [[nodiscard]] Fit     fit() const override { return {QSize(0, 0)}; }
@@ -52,7 +52,7 @@ public:
     void update() override
     {
         Adaptor::update();
-        shown()->setAutoFillBackground(kind().BackColor != platform::kButtonFace);
+        shown()->setAutoFillBackground(fillsGround());
         showColors(QPalette::WindowText, QPalette::Window);
     }
     [[nodiscard]] Fit  fit() const override { return {QSize(0, 0)}; }

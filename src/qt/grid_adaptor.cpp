@@ -280,12 +280,20 @@ private:
 
     // --- To the model ------------------------------------------------------------------------
 
-    void ask(platform::UserDoor (platform::Grid::*verb)(int, int), const QModelIndex& cell)
+    /// What the user does with a grid that is still there.
+    template <class What>
+    void act(What&& what)
     {
         if (grid() != nullptr) {
-            const int row = GridRows::rowOf(cell);
-            byUser([&] { (kind().*verb)(row, cell.column() + 1); });
+            byUser(what);
         }
+    }
+
+    void ask(platform::UserDoor (platform::Grid::*verb)(int, int), const QModelIndex& cell)
+    {
+        const int row = GridRows::rowOf(cell);
+        const int col = cell.column() + 1;
+        act([&] { (kind().*verb)(row, col); });
     }
 
     void tellFolding(const QModelIndex& index, bool expanded)
@@ -373,26 +381,13 @@ private:
     [[nodiscard]] CellEditorEvents boxEvents()
     {
         CellEditorEvents events;
-        const auto       verb = [this](auto&& what) {
-            return [this, what] {
-                if (grid() != nullptr) {
-                    byUser(what);
-                }
-            };
-        };
-        events.commit = verb([this] { kind().commitEdit(); });
-        events.cancel = verb([this] { kind().cancelEdit(); });
+        events.commit = [this] { act([this] { kind().commitEdit(); }); };
+        events.cancel = [this] { act([this] { kind().cancelEdit(); }); };
         events.typed  = [this](const QString& text) {
-            if (grid() != nullptr) {
-                byUser([&] { kind().typeCell(kind().EditRow(), kind().EditCol(), fromQt(text)); });
-            }
+            act([&] { kind().typeCell(kind().EditRow(), kind().EditCol(), fromQt(text)); });
         };
-        events.chosen = [this](int entry) {
-            if (grid() != nullptr) {
-                byUser([&] { choose(entry); });
-            }
-        };
-        events.left = [this](Qt::FocusReason reason) {
+        events.chosen = [this](int entry) { act([&] { choose(entry); }); };
+        events.left   = [this](Qt::FocusReason reason) {
             if (grid() != nullptr) {
                 byUser([&] { kind().commitEdit(); });
                 focusLeft(reason);

@@ -18,8 +18,6 @@ GridRows::GridRows(std::function<const platform::Grid*()> grid,
 {
 }
 
-GridRows::~GridRows() = default;
-
 // --- Changes -------------------------------------------------------------------------------------
 
 void GridRows::note(const platform::WidgetChange& change)
@@ -294,10 +292,8 @@ int GridRows::columnCount(const QModelIndex&) const
 
 // --- Contents ------------------------------------------------------------------------------------
 
-const platform::Grid::Cell* GridRows::cellAt(const QModelIndex& index) const
+const platform::Grid::Cell* GridRows::cellOf(const platform::Grid* grid, const QModelIndex& index)
 {
-    // Between a change and the next turn there may be fewer rows than the views know of.
-    const platform::Grid* const grid = mGrid();
     return grid != nullptr && index.isValid() && rowOf(index) <= grid->RowCount() &&
                    index.column() < grid->ColCount()
                ? &grid->cell(rowOf(index), index.column() + 1)
@@ -343,7 +339,7 @@ QVariant GridRows::description(const QModelIndex& index, const platform::Grid::C
 
 QVariant GridRows::data(const QModelIndex& index, int role) const
 {
-    const platform::Grid::Cell* const cell = cellAt(index);
+    const platform::Grid::Cell* const cell = cellOf(mGrid(), index);
     if (cell == nullptr) {
         return {};
     }
@@ -386,7 +382,7 @@ QVariant GridRows::headerData(int section, Qt::Orientation orientation, int role
 Qt::ItemFlags GridRows::flags(const QModelIndex& index) const
 {
     Qt::ItemFlags flags = Qt::ItemIsEnabled | Qt::ItemIsSelectable;
-    if (const platform::Grid::Cell* const cell = cellAt(index)) {
+    if (const platform::Grid::Cell* const cell = cellOf(mGrid(), index)) {
         const bool check = cell->kind == platform::Grid::CellKind::check;
         if (mGrid()->Editable && cell->Editable) {
             flags |= check ? Qt::ItemIsUserCheckable : Qt::ItemIsEditable;
@@ -397,7 +393,7 @@ Qt::ItemFlags GridRows::flags(const QModelIndex& index) const
 
 bool GridRows::setData(const QModelIndex& index, const QVariant& value, int role)
 {
-    if (role != Qt::CheckStateRole || cellAt(index) == nullptr) {
+    if (role != Qt::CheckStateRole || cellOf(mGrid(), index) == nullptr) {
         return false;
     }
     const auto wanted = value.value<Qt::CheckState>();

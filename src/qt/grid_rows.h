@@ -22,7 +22,6 @@ public:
     /// without a mouse or a key, with row and column from 1.
     GridRows(std::function<const platform::Grid*()> grid, std::function<void(int, int, bool)> check,
              QObject* parent);
-    ~GridRows() override;
 
     void note(const platform::WidgetChange& change);
     void tell();
@@ -33,6 +32,10 @@ public:
     [[nodiscard]] QModelIndex cell(int row, int col) const;
     /// The grid's number of a row, 0 for none.
     [[nodiscard]] static int rowOf(const QModelIndex& index);
+    /// The cell that the views know by this index. Nothing without a grid or a valid index, and for
+    /// a cell that has gone: between a change and the next turn views know of more than there is.
+    [[nodiscard]] static const platform::Grid::Cell* cellOf(const platform::Grid* grid,
+                                                            const QModelIndex&    index);
     /// Whether any row has a parent.
     [[nodiscard]] bool isTree() const noexcept { return mChildren > 0; }
     /// The rows that are new or that were told as wholes since the last call: they may be hidden or
@@ -71,10 +74,9 @@ private:
         bool touched = false;
     };
 
-    [[nodiscard]] const platform::Grid::Cell* cellAt(const QModelIndex& index) const;
-    [[nodiscard]] Node*                       nodeOf(const QModelIndex& index) const;
-    [[nodiscard]] QModelIndex                 indexOf(const Node& node, int column = 0) const;
-    [[nodiscard]] std::vector<int>            parents() const;
+    [[nodiscard]] Node*            nodeOf(const QModelIndex& index) const;
+    [[nodiscard]] QModelIndex      indexOf(const Node& node, int column = 0) const;
+    [[nodiscard]] std::vector<int> parents() const;
     [[nodiscard]] QVariant text(const QModelIndex& index, const platform::Grid::Cell& cell) const;
     [[nodiscard]] QVariant color(const platform::Grid::Cell& cell, int role) const;
     [[nodiscard]] QVariant description(const QModelIndex& index, const platform::Grid::Cell& cell,

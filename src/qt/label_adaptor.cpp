@@ -18,6 +18,7 @@ public:
     void update() override
     {
         ClickAdaptor::update();
+        showWeight();
         showText();
     }
 
@@ -47,7 +48,8 @@ public:
 protected:
     [[nodiscard]] bool movesThings(const platform::WidgetChange& change) const override
     {
-        return change.property == &kind().Caption || Adaptor::movesThings(change);
+        return change.property == &kind().Caption || change.property == &kind().Bold ||
+               Adaptor::movesThings(change);
     }
 
     [[nodiscard]] QString extraToolTip() const override
@@ -63,6 +65,18 @@ private:
         const QRect        place = designRect(kind());
         return place.height() >= 2 * metrics.height() - 4 && place.width() > 0 &&
                metrics.size(0, toQt(kind().Caption)).width() > place.width();
+    }
+
+    void showWeight()
+    {
+        // All but the weight stays the form's.
+        QFont own;
+        if (kind().Bold) {
+            own.setBold(true);
+        }
+        if (shown()->font().bold() != kind().Bold) {
+            shown()->setFont(own);
+        }
     }
 
     void showText()

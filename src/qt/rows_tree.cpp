@@ -6,6 +6,7 @@
 #include <QHelpEvent>
 #include <QMouseEvent>
 #include <QPainter>
+#include <QScrollBar>
 #include <QToolTip>
 
 #include <algorithm>
@@ -42,12 +43,11 @@ void RoomyRows::initStyleOption(QStyleOptionViewItem* option, const QModelIndex&
     option->state &= ~QStyle::State_HasFocus;
 }
 
-RowsTree::RowsTree(QWidget* parent) : QTreeView(parent)
+RowsTree::RowsTree(QWidget* parent) : QTreeView(parent), mCorner(new QWidget(this))
 {
-    auto* const corner = new QWidget(this);
-    corner->setAutoFillBackground(true);
-    corner->setBackgroundRole(QPalette::Base);
-    setCornerWidget(corner);
+    mCorner->setAutoFillBackground(true);
+    mCorner->setBackgroundRole(QPalette::Base);
+    mCorner->hide();
     setRootIsDecorated(false);
     setUniformRowHeights(true);
     setVerticalScrollMode(QAbstractItemView::ScrollPerItem);
@@ -95,6 +95,15 @@ QString RowsTree::selectedText() const
         }
     }
     return lines.join(u'\n');
+}
+
+void RowsTree::resizeEvent(QResizeEvent* event)
+{
+    QTreeView::resizeEvent(event);
+    // A bar leaves room for the corner even where there is no other bar.
+    const bool both =
+        verticalScrollBar()->isVisibleTo(this) && horizontalScrollBar()->isVisibleTo(this);
+    setCornerWidget(both ? mCorner : nullptr);
 }
 
 void RowsTree::mousePressEvent(QMouseEvent* event)

@@ -42,6 +42,7 @@ public:
     void leave(bool forward) { focusNextPrevChild(forward); }
 
 protected:
+    void resizeEvent(QResizeEvent* event) override;
     void mousePressEvent(QMouseEvent* event) override;
     void mouseMoveEvent(QMouseEvent* event) override;
     void mouseReleaseEvent(QMouseEvent* event) override;
@@ -57,8 +58,9 @@ private:
     void drawCursor(QPainter& painter, const QRect& row) const;
     void updateRow(const QModelIndex& index);
 
-    bool mCellCursor = false;
-    bool mLines      = false;
+    QWidget* mCorner; ///< where two scroll bars meet
+    bool     mCellCursor = false;
+    bool     mLines      = false;
 };
 
 } // namespace quill::qt

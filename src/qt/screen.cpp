@@ -101,6 +101,7 @@ void Screen::flush()
         return;
     }
     mFlushing = true;
+    const QPointer<QWidget> before(mArea.window()->focusWidget());
     if (std::exchange(mFormChanged, false)) {
         build();
     }
@@ -112,6 +113,7 @@ void Screen::flush()
     if (std::exchange(mFocusMoved, false)) {
         showFocus();
     }
+    keepFocus(before);
     mFlushing = false;
     // What handlers have changed meanwhile waits for the next turn, so that two widgets that
     // answer each other do not hold up the event loop.
@@ -214,8 +216,14 @@ void Screen::removeGone()
 
 void Screen::updateDirty()
 {
-    const auto dirty = std::exchange(mDirty, {});
+    auto dirty = std::exchange(mDirty, {});
     mIsDirty.clear();
+    // Where several are disabled, the one with the focus is the last: else the focus would go from
+    // one to the next, and each would take it for a visit of the user's.
+    std::stable_partition(dirty.begin(), dirty.end(), [this](const platform::Widget* model) {
+        const Adaptor* const adaptor = find(*model);
+        return adaptor == nullptr || !adaptor->widget()->hasFocus();
+    });
     for (const platform::Widget* model : dirty) {
         // Showing one widget can move the focus and so run handlers that destroy another.
         if (Adaptor* const adaptor = find(*model)) {
@@ -256,6 +264,29 @@ void Screen::showFocus()
     QWidget* const target = firstIn(*holder, firstIn);
     if (target != nullptr && target != current && !inside) {
         target->setFocus(Qt::OtherFocusReason);
+    }
+}
+
+/// While a transfer runs, editors are disabled, and Qt takes the focus to what is not. Whoever
+/// works by keyboard finds it where it was when the transfer is over, unless he or the program has
+/// taken it elsewhere meanwhile.
+void Screen::keepFocus(QWidget* before)
+{
+    QWidget* const now = mArea.window()->focusWidget();
+    if (mBarred && before != mBarred->refuge) {
+        mBarred.reset();
+    }
+    if (before != nullptr && now != before && !before->isEnabled() && mArea.isAncestorOf(before)) {
+        const QPointer<QWidget> home = mBarred ? mBarred->home : QPointer<QWidget>(before);
+        mBarred                      = Barred{home, now};
+        return;
+    }
+    if (!mBarred || (mBarred->home && !mBarred->home->isEnabled() && now == before)) {
+        return;
+    }
+    const QPointer<QWidget> home = std::exchange(mBarred, {})->home;
+    if (home && home->isVisible() && now == before) {
+        home->setFocus(Qt::OtherFocusReason);
     }
 }
 

@@ -6,6 +6,7 @@
 
 #include <QPointer>
 
+#include <optional>
 #include <unordered_map>
 #include <unordered_set>
 #include <vector>
@@ -58,6 +59,7 @@ private:
     void                  arrange(Adaptor& container);
     void                  stack(const Adaptor& container);
     void                  showFocus();
+    void                  keepFocus(QWidget* before);
     void                  describeChildren(const Adaptor& container);
     [[nodiscard]] QString labelFor(const Adaptor& adaptor) const;
     [[nodiscard]] QString labelBeside(const Adaptor& container, const Adaptor& adaptor) const;
@@ -75,10 +77,16 @@ private:
     std::unordered_map<const platform::Widget*, bool> mMoved;
     StateWords                                        mWords;
     QRect                                             mContents;
-    bool                                              mFormChanged = true;
-    bool                                              mFocusMoved  = true;
-    bool                                              mScheduled   = false;
-    bool                                              mFlushing    = false;
+    /// Where the focus was when its widget was disabled, and where Qt took it then.
+    struct Barred {
+        QPointer<QWidget> home;
+        QPointer<QWidget> refuge;
+    };
+    std::optional<Barred> mBarred;
+    bool                  mFormChanged = true;
+    bool                  mFocusMoved  = true;
+    bool                  mScheduled   = false;
+    bool                  mFlushing    = false;
     /// Receives the scheduled flush and dies with the screen.
     QObject mTurn;
 };

@@ -96,6 +96,11 @@ private:
 
     void showSelection()
     {
+        // A selection means the next key, which goes to the box with the focus only.
+        if (!shown()->hasFocus()) {
+            shown()->deselect();
+            return;
+        }
         const QString text  = shown()->text();
         const int     start = toQtPosition(text, kind().SelStart);
         const int     end   = toQtPosition(text, kind().SelStart + kind().SelLength);

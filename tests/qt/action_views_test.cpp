@@ -47,6 +47,21 @@ struct ViewPage : Page {
     }
 };
 
+/// The settings before they are asked for.
+struct SettingsPage : Page {
+    quill::test::RecordingMessenger  messenger;
+    quill::test::RecordingTranslator translator;
+    CtrSettings                      view{*this, {.Name = "settings", .Visible = false}};
+
+    SettingsPage()
+    {
+        messenger.translator = &translator;
+        view.SetMessenger(&messenger);
+        view.SetSupportedLanguages({"English", "German"});
+        view.Localize(translator);
+    }
+};
+
 TEST(ActionViewsOnScreen, TheTabKeyGoesThroughTheResetRowsToTheButton)
 {
     ViewPage<CtrReset> page;
@@ -115,15 +130,9 @@ TEST(ActionViewsOnScreen, EveryBoxHasAName)
 
 TEST(ActionViewsOnScreen, EscapeLeavesTheSettingsFromWhereverTheFocusIs)
 {
-    Page                             page;
-    quill::test::RecordingMessenger  messenger;
-    quill::test::RecordingTranslator translator;
-    messenger.translator = &translator;
-    CtrSettings view{page, {.Name = "settings", .Visible = false}};
-    view.SetMessenger(&messenger);
-    view.SetSupportedLanguages({"English", "German"});
-    view.Localize(translator);
-    const Shown screen(page);
+    SettingsPage page;
+    CtrSettings& view = page.view;
+    const Shown  screen(page);
     for (platform::Widget* widget :
          platform::WidgetList{&view.cboSelectLanguage, &view.cboStatusClassification, &view.cmdOK,
                               &view.cmdCancel}) {
@@ -138,15 +147,9 @@ TEST(ActionViewsOnScreen, EscapeLeavesTheSettingsFromWhereverTheFocusIs)
 
 TEST(ActionViewsOnScreen, AfterApplyEscapeStillLeavesTheSettings)
 {
-    Page                             page;
-    quill::test::RecordingMessenger  messenger;
-    quill::test::RecordingTranslator translator;
-    messenger.translator = &translator;
-    CtrSettings view{page, {.Name = "settings", .Visible = false}};
-    view.SetMessenger(&messenger);
-    view.SetSupportedLanguages({"English", "German"});
-    view.Localize(translator);
-    const Shown screen(page);
+    SettingsPage page;
+    CtrSettings& view = page.view;
+    const Shown  screen(page);
     view.show();
     settle();
     view.cboSelectLanguage.choose(1);

@@ -109,6 +109,50 @@ struct ColorPage : Page {
     platform::ComboBox cbo{*this, {.Name = "cbo", .Top = 600, .Width = 1500, .Height = 315}};
 };
 
+TEST(Colors, AnEdgeIsToldFromTheGroundsOnBothSidesOfIt)
+{
+    for (const QPalette& palette : {light(), dark()}) {
+        // What the stock style makes of it.
+        const QColor edge = outlineColor(palette).darker(140);
+        EXPECT_GE(contrast(edge, palette.color(QPalette::Base)), kEdgeContrast - 0.1);
+        EXPECT_GE(contrast(edge, palette.color(QPalette::Window)), kEdgeContrast - 0.1);
+    }
+}
+
+TEST(ColorsOnScreen, ABoxHasItsEdgeInBothPalettes)
+{
+    ColorPage   page;
+    const Shown screen(page);
+    for (const QPalette& palette : {light(), dark()}) {
+        screen.view->setPalette(palette);
+        settle();
+        for (const platform::Widget* box : {static_cast<platform::Widget*>(&page.txt),
+                                            static_cast<platform::Widget*>(&page.cbo)}) {
+            EXPECT_EQ(screen[*box]->palette().color(QPalette::Window), outlineColor(palette));
+        }
+    }
+}
+
+TEST(ColorsOnScreen, AWhiteFrameIsThePageThatItStandsOnWhereThatIsDark)
+{
+    struct FramedPage : Page {
+        platform::Frame white{*this, {.Name = "white", .Width = 3000, .Height = 900}};
+        platform::Frame grey{*this, {.Name = "grey", .Top = 900, .Width = 3000, .Height = 900}};
+    } page;
+    page.white.BackColor = kWhite;
+    page.grey.BackColor  = kGrey;
+    const Shown screen(page);
+    screen.view->setPalette(light());
+    settle();
+    EXPECT_TRUE(screen[page.white]->autoFillBackground());
+    EXPECT_EQ(screen[page.white]->palette().color(QPalette::Window), QColor(Qt::white));
+    screen.view->setPalette(dark());
+    settle();
+    EXPECT_FALSE(screen[page.white]->autoFillBackground());
+    EXPECT_EQ(screen[page.white]->palette().color(QPalette::Window), QColor(45, 45, 48));
+    EXPECT_TRUE(screen[page.grey]->autoFillBackground()) << "a grey one still says something";
+}
+
 TEST(ColorsOnScreen, FollowTheModelAndThePalette)
 {
     ColorPage page;

@@ -54,6 +54,99 @@ TEST(FocusOnScreen, TabFollowsTheFormOrderIntoFramesAndChildControls)
     EXPECT_EQ(focusedName(), "CtrFocusTransfer1");
 }
 
+/// Boxes that are disabled together for a while, as by a transfer.
+struct BarredPage : Page {
+    std::array<platform::TextBox, 3> box{
+        {{*this, {.Name = "box", .Index = 0, .Width = 900, .Height = 315}},
+         {*this, {.Name = "box", .Index = 1, .Top = 400, .Width = 900, .Height = 315}},
+         {*this, {.Name = "box", .Index = 2, .Top = 800, .Width = 900, .Height = 315}}}};
+    platform::CommandButton cmdOther{*this, {.Name = "cmdOther", .Top = 2000, .Width = 900}};
+    platform::CommandButton cmdMore{*this, {.Name = "cmdMore", .Top = 3000, .Width = 900}};
+    std::vector<int>        visited;
+
+    BarredPage()
+    {
+        for (platform::TextBox& text : box) {
+            text.Text = "12.5";
+            mVisits.push_back(text.GotFocus.subscribe([this, &text] {
+                visited.push_back(text.Index);
+                text.SelStart  = 0;
+                text.SelLength = 4;
+            }));
+        }
+    }
+    void bar(bool barred)
+    {
+        for (platform::TextBox& text : box) {
+            text.Enabled = !barred;
+        }
+        settle();
+    }
+
+private:
+    std::vector<platform::Subscription> mVisits;
+};
+
+TEST(FocusOnScreen, ABoxThatWasBarredForAWhileGetsItBack)
+{
+    BarredPage  page;
+    const Shown screen(page);
+    screen.click(page.box[0]);
+    for (int time = 0; time < 2; ++time) {
+        page.bar(true);
+        EXPECT_EQ(QApplication::focusWidget(), screen[page.cmdOther]);
+        page.bar(false);
+        EXPECT_EQ(QApplication::focusWidget(), screen[page.box[0]]);
+        EXPECT_TRUE(page.box[0].HasFocus());
+    }
+    EXPECT_THAT(page.visited, ::testing::ElementsAre(0, 0, 0)) << "no other box was visited";
+}
+
+TEST(FocusOnScreen, ABoxThatWasBarredDoesNotTakeItFromWhereItWent)
+{
+    BarredPage  page;
+    const Shown screen(page);
+    screen.click(page.box[0]);
+    page.bar(true);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab); // the user
+    page.bar(false);
+    EXPECT_EQ(QApplication::focusWidget(), screen[page.cmdMore]);
+
+    screen.click(page.box[0]);
+    page.bar(true);
+    page.box[2].Enabled = true;
+    page.box[2].SetFocus(); // the program
+    page.bar(false);
+    EXPECT_EQ(QApplication::focusWidget(), screen[page.box[2]]);
+}
+
+TEST(FocusOnScreen, OnlyTheBoxWithItShowsASelection)
+{
+    BarredPage  page;
+    const Shown screen(page);
+    const auto  selected = [&] {
+        std::vector<int> result;
+        for (const platform::TextBox& text : page.box) {
+            if (screen.as<QLineEdit>(text)->hasSelectedText()) {
+                result.push_back(text.Index);
+            }
+        }
+        return result;
+    };
+    for (platform::TextBox* box : {&page.box[1], &page.box[0]}) {
+        box->SetFocus();
+        settle();
+    }
+    EXPECT_THAT(selected(), ::testing::ElementsAre(0));
+    page.box[1].SelLength = 2;
+    settle();
+    EXPECT_THAT(selected(), ::testing::ElementsAre(0));
+    page.bar(true);
+    EXPECT_THAT(selected(), ::testing::IsEmpty());
+    page.bar(false);
+    EXPECT_THAT(selected(), ::testing::ElementsAre(0));
+}
+
 TEST(FocusOnScreen, ADyingFrameLeavesTheOrderWhole)
 {
     FocusPage   page;

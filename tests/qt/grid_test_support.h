@@ -1,5 +1,6 @@
 #pragma once
 
+#include "support/grid_events.h"
 #include "tests/qt/screen_test_support.h"
 
 #include <QPaintEvent>
@@ -35,25 +36,10 @@ private:
     QWidget* mViewport;
 };
 
-/// A page with a grid, and the user's events of it as words: "click 2,1".
+/// A page with a grid, and somebody who listens to its user.
 struct GridPage : Page {
     platform::Grid    scg{*this, {.Name = "scg", .Width = 7500, .Height = 4500}};
     platform::TextBox txt{*this, {.Name = "txt", .Top = 4800, .Width = 1500, .Height = 315}};
-
-    GridPage()
-    {
-        hear(scg.Click, "click");
-        hear(scg.RightClick, "right");
-        hear(scg.Hover, "hover");
-        hear(scg.CurCellChange, "cursor");
-        hear(scg.TextEditChange, "typing");
-        hear(scg.TextChange, "changed");
-        hear(scg.AfterCommitEdit, "committed");
-        held.push_back(scg.RequestEdit.subscribe([this](platform::Grid::EditRequest& request) {
-            say("request", request.row, request.col);
-            request.cancel = barred;
-        }));
-    }
 
     /// Columns "a", "b", ... of 120 pixels, and so many rows with the texts "row 1".
     void fill(int columns, int rows)
@@ -68,19 +54,12 @@ struct GridPage : Page {
         }
     }
 
-    std::vector<std::string> heard;
-    bool                     barred = false;
-
 private:
-    void say(const std::string& what, int row, int col)
-    {
-        heard.push_back(what + " " + std::to_string(row) + "," + std::to_string(col));
-    }
-    void hear(platform::Event<int, int>& event, const char* what)
-    {
-        held.push_back(event.subscribe([this, what](int row, int col) { say(what, row, col); }));
-    }
-    std::vector<platform::Subscription> held;
+    quill::test::GridEvents mEvents{scg};
+
+public:
+    std::vector<std::string>& heard  = mEvents.heard;
+    bool&                     barred = mEvents.barred;
 };
 
 /// A grid on screen with a user in front of it. Rows and columns count from 1; `cell` finds them

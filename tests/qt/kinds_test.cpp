@@ -136,6 +136,27 @@ struct ComboPage : Page {
     }
 };
 
+TEST(LabelsOnScreen, ATitleIsBoldAndWholeAllTheSame)
+{
+    struct Titled : Page {
+        platform::Label lbl{
+            *this, {.Name = "lbl", .Caption = "Minimum closing time", .Width = 900, .Height = 270}};
+    } page;
+    const Shown screen(page);
+    const auto& shown = *screen.as<QLabel>(page.lbl);
+    const QFont plain = shown.font();
+    const int   width = shown.width();
+    page.lbl.Bold     = true;
+    settle();
+    EXPECT_TRUE(shown.font().bold());
+    EXPECT_EQ(shown.font().pointSizeF(), plain.pointSizeF());
+    EXPECT_GT(shown.width(), width) << "bold letters are wider";
+    EXPECT_EQ(shown.text(), "Minimum closing time");
+    page.lbl.Bold = false;
+    settle();
+    EXPECT_EQ(shown.font(), plain);
+}
+
 TEST(ComboBoxOnScreen, AChoiceByKeyAndByMouseIsTheUsers)
 {
     ComboPage   page;

@@ -355,6 +355,25 @@ TEST_F(ListOnScreen, AViewMaySelectRowsByItself)
     EXPECT_EQ(tree()->selectionModel()->selectedRows().size(), 100);
 }
 
+TEST_F(ListOnScreen, ABarAloneReachesToTheEndOfTheList)
+{
+    const QScrollBar& bar = *tree()->verticalScrollBar();
+    ASSERT_TRUE(bar.isVisible());
+    ASSERT_FALSE(tree()->horizontalScrollBar()->isVisible());
+    const auto end = [&] { return bar.mapTo(tree(), QPoint(0, bar.height())).y(); };
+    EXPECT_EQ(end(), tree()->height() - tree()->frameWidth());
+
+    page.lst.setColumnWidth(1, 9000);
+    settle();
+    ASSERT_TRUE(tree()->horizontalScrollBar()->isVisible());
+    EXPECT_EQ(end(),
+              tree()->height() - tree()->frameWidth() - tree()->horizontalScrollBar()->height())
+        << "two of them leave a corner";
+    page.lst.setColumnWidth(1, 3000);
+    settle();
+    EXPECT_EQ(end(), tree()->height() - tree()->frameWidth());
+}
+
 TEST_F(ListOnScreen, ToolTipsAreTheRowsOwnOrTheTextThatIsCut)
 {
     const std::string wide = "a text that needs much more room than its column of 200 pixels";

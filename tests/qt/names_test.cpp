@@ -1,5 +1,7 @@
 #include "tests/qt/screen_test_support.h"
 
+#include <QAccessible>
+
 #include <gmock/gmock.h>
 
 namespace quill::qt::test {
@@ -38,6 +40,26 @@ struct NamePage : Page {
     platform::CheckBox chk{*this,
                            {.Name = "chk", .Caption = "&Enabled", .Left = 4500, .Top = 1500}};
 };
+
+TEST(AccessibleNames, AListTellsWhatItIsCalledBesidesItsValue)
+{
+    struct ListPage : Page {
+        platform::Label    lbl{*this,
+                            {.Name = "lbl", .Caption = "Valve type", .Width = 900, .Height = 255}};
+        platform::ComboBox cbo{*this, {.Name = "cbo", .Left = 1500, .Width = 1500, .Height = 315}};
+    } page;
+    page.cbo.AddItem("Globe valve");
+    page.cbo.ToolTipText = "What is fitted";
+    const Shown screen(page);
+    settle();
+    (void)page.cbo.choose(0);
+    settle();
+    const QAccessibleInterface& told = *QAccessible::queryAccessibleInterface(screen[page.cbo]);
+    EXPECT_EQ(told.text(QAccessible::Value), "Globe valve");
+    const QString all = told.text(QAccessible::Name) + u'\n' + told.text(QAccessible::Description);
+    EXPECT_TRUE(all.contains("Valve type")) << all.toStdString();
+    EXPECT_TRUE(all.contains("What is fitted"));
+}
 
 TEST(AccessibleNames, ComeFromTheLabelsAroundAndTellTheState)
 {

@@ -3,6 +3,8 @@
 
 #include <gmock/gmock.h>
 
+#include <algorithm>
+
 namespace quill::shell::test {
 namespace {
 
@@ -116,6 +118,31 @@ TEST_P(EventLogWindow, PageDownAtTheEndReadsOn)
     userInput::press(list, Qt::Key_PageDown);
     waitForDevice();
     EXPECT_GT(log().lsvEventLog.Count(), before);
+}
+
+TEST_P(EventLogWindow, SpeaksTheLanguageThatIsSwitchedTo)
+{
+    goOnline();
+    readPage();
+    const auto isInEnglish = [this] {
+        const auto& rows = log().lsvEventLog.ListItems();
+        return std::ranges::any_of(rows,
+                                   [](const auto& row) { return row.Text == "Notification"; });
+    };
+    EXPECT_TRUE(isInEnglish());
+    window->setLanguage("Finnish");
+    userInput::settle();
+    EXPECT_FALSE(isInEnglish());
+    EXPECT_GE(log().lsvEventLog.Count(), 20) << "what the datafile has";
+    EXPECT_FALSE(eventLog::column(log().lsvEventLog.Item(1), eventLog::kDate).empty());
+    EXPECT_TRUE(shown(log().lsvEventLog).isVisible());
+    readPage();
+    EXPECT_TRUE(log().cmdNext.Enabled);
+    click(log().cmdNext);
+    EXPECT_FALSE(isInEnglish());
+    window->setLanguage("English");
+    EXPECT_TRUE(isInEnglish());
+    EXPECT_TRUE(dialogs.boxes.empty());
 }
 
 TEST_P(EventLogWindow, ItsColumnsNeedNoBar)

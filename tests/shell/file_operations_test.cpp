@@ -1,6 +1,6 @@
 #include "shell/file_operations.h"
 
-#include "platform/failure.h"
+#include "../support/failure_of.h"
 #include "temporary_folder.h"
 #include "watched_operations.h"
 
@@ -8,7 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <cerrno>
-#include <functional>
 #include <sys/stat.h>
 #include <sys/wait.h>
 #include <system_error>
@@ -17,19 +16,9 @@
 namespace quill::shell {
 namespace {
 
-using platform::Failure;
+using test::failureText;
 using testing::ElementsAre;
 using testing::StartsWith;
-
-std::string failureOf(const std::function<void()>& action)
-{
-    try {
-        action();
-    } catch (const Failure& failure) {
-        return failure.description();
-    }
-    return "no failure";
-}
 
 TEST(ReplaceFile, SyncsTheNewFileBeforeItTakesTheName)
 {
@@ -55,7 +44,7 @@ TEST_P(FailingStep, LeavesTheOldFileAndNothingBesideIt)
             throw std::system_error(ENOSPC, std::generic_category());
         }
     };
-    EXPECT_THAT(failureOf([&] { replaceFile(folder.path("a.xml"), "new text", operations); }),
+    EXPECT_THAT(failureText([&] { replaceFile(folder.path("a.xml"), "new text", operations); }),
                 StartsWith("shell_errWrite#" + folder.path("a.xml") + ": "));
     EXPECT_EQ(folder.read("a.xml"), "old");
     EXPECT_THAT(folder.names(), ElementsAre("a.xml"));
@@ -114,13 +103,13 @@ INSTANTIATE_TEST_SUITE_P(All, KilledAt,
 TEST(ReplaceFile, TellsWhatToDoAboutAWrongName)
 {
     TemporaryFolder folder;
-    EXPECT_EQ(failureOf([&] { replaceFile(folder.path("no/a.xml"), "x"); }),
+    EXPECT_EQ(failureText([&] { replaceFile(folder.path("no/a.xml"), "x"); }),
               "shell_errNoFolder#" + std::filesystem::canonical(folder.path()).string() + "/no");
     std::filesystem::create_directory(folder.path("sub"));
-    EXPECT_EQ(failureOf([&] { replaceFile(folder.path("sub"), "x"); }),
+    EXPECT_EQ(failureText([&] { replaceFile(folder.path("sub"), "x"); }),
               "shell_errIsFolder#" + folder.path("sub"));
     folder.write("file", "x");
-    EXPECT_THAT(failureOf([&] { replaceFile(folder.path("file/a.xml"), "x"); }),
+    EXPECT_THAT(failureText([&] { replaceFile(folder.path("file/a.xml"), "x"); }),
                 StartsWith("shell_errNoFolder#"));
 }
 
@@ -148,9 +137,9 @@ TEST(ReplaceFile, FollowsALink)
 TEST(ReadFile, TellsWhatToDoAboutAWrongName)
 {
     TemporaryFolder folder;
-    EXPECT_EQ(failureOf([&] { (void)readFile(folder.path("none")); }),
+    EXPECT_EQ(failureText([&] { (void)readFile(folder.path("none")); }),
               "shell_errNoFile#" + folder.path("none"));
-    EXPECT_EQ(failureOf([&] { (void)readFile(folder.path()); }),
+    EXPECT_EQ(failureText([&] { (void)readFile(folder.path()); }),
               "shell_errIsFolder#" + folder.path());
     folder.write("bytes", std::string{"a\0\r\n", 4});
     EXPECT_EQ(readFile(folder.path("bytes")), (std::string{"a\0\r\n", 4}));

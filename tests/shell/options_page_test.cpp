@@ -145,12 +145,20 @@ TEST_F(OptionsPage, TheKeyboardReachesEverything)
         << "Tab leaves the group: " << (at ? at->accessibleName().toStdString() : "nowhere");
 }
 
-TEST_F(OptionsPage, IsReadOnlyToWhoMayNotWrite)
+TEST_F(OptionsPage, WhoMayNotWriteSendsNothing)
 {
     goOnline();
+    const std::string before = inDevice("failsafeAction");
+    userInput::click(shown(option().Option(1)));
+    toggle(2);
     messenger().setUserLevel(2);
     userInput::settle();
     EXPECT_FALSE(window->command("changes")->isEnabled());
+    EXPECT_FALSE(toolButton("changes").isEnabled());
+    window->command("changes")->trigger();
+    EXPECT_FALSE(window->changesDialog().isVisible());
+    EXPECT_EQ(inDevice("failsafeAction"), before);
+    EXPECT_TRUE(option().Modified()) << "the edit waits for somebody who may";
 }
 
 } // namespace

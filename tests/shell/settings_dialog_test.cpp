@@ -116,7 +116,7 @@ TEST_F(SettingsWindow, CancelAndEscapeChangeNothing)
     EXPECT_FALSE(control().isModified());
 }
 
-TEST_F(SettingsWindow, EnterIsOKAndTheKeyboardReachesEveryChoice)
+TEST_F(SettingsWindow, EnterIsOKAndTheFirstChoiceHasTheFocus)
 {
     open();
     QWidget* const first = dialog().focusWidget();

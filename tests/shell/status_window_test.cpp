@@ -9,6 +9,7 @@
 #include <QStatusBar>
 #include <QToolButton>
 #include <QTreeWidget>
+#include <QtTest>
 #include <gmock/gmock.h>
 
 namespace quill::shell::test {
@@ -146,6 +147,29 @@ TEST_F(StatusWindow, TheSignTellsTheCombinedStatusWithASymbolAndAWord)
     EXPECT_NE(sign().icon().pixmap(24).toImage(), alarm) << "another symbol for another status";
 }
 
+TEST_F(StatusWindow, TheTitleBarTellsTheStatusToTheTaskListToo)
+{
+    const auto symbol = [&] { return window->windowIcon().pixmap(24).toImage(); };
+    const auto valve  = symbol();
+    EXPECT_TRUE(window->windowTitle().startsWith("Quill")) << "nothing is known yet";
+    window->showPage("status");
+    readPage();
+    EXPECT_TRUE(window->windowTitle().startsWith("OK – Quill – "));
+    EXPECT_EQ(symbol(), sign().icon().pixmap(24).toImage());
+    model().setFault(Fault::supplyFailure, true);
+    messenger().device().advance(30);
+    readPage();
+    EXPECT_TRUE(window->windowTitle().startsWith("Alarm – Quill – "));
+    EXPECT_EQ(symbol(), sign().icon().pixmap(24).toImage());
+    goOnline(); // and thereby offline
+    EXPECT_TRUE(window->windowTitle().startsWith("Unknown – Quill – "));
+    dialogs.saveChoices.push_back(SaveChoice::discard); // the masks were read
+    window->command("openVX4400F")->trigger();
+    userInput::settle();
+    EXPECT_TRUE(window->windowTitle().startsWith("Quill"));
+    EXPECT_EQ(symbol(), valve);
+}
+
 TEST_F(StatusWindow, TheSignFollowsAlsoWhileAnotherPageIsInFront)
 {
     goOnline();
@@ -162,9 +186,10 @@ TEST_F(StatusWindow, TheSignFollowsAlsoWhileAnotherPageIsInFront)
 TEST_F(StatusWindow, ACommandLeadsToTheStatusByKeyboard)
 {
     EXPECT_TRUE(window->command("status")->isEnabled());
-    userInput::press(*window, Qt::Key_T, Qt::ControlModifier);
-    EXPECT_FALSE(window->command("status")->shortcut().isEmpty());
-    window->command("status")->trigger();
+    EXPECT_NE(window->book().GetSelectedView(), "status");
+    // A shortcut is heard by the window only, wherever the focus is.
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_T, Qt::ControlModifier);
+    userInput::settle();
     EXPECT_EQ(window->book().GetSelectedView(), "status");
 }
 

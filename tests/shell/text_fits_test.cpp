@@ -283,7 +283,7 @@ TEST(TextFitsOnASharpScreen, AllOfTheAbove)
     again.setProcessEnvironment(environment);
     again.setProcessChannelMode(QProcess::MergedChannels);
     again.start(QCoreApplication::applicationFilePath(), {"--gtest_filter=Languages/TextFits.*"});
-    ASSERT_TRUE(again.waitForFinished(120'000));
+    ASSERT_TRUE(again.waitForFinished(600'000));
     EXPECT_EQ(again.exitCode(), 0) << again.readAll().toStdString();
 }
 
