@@ -122,7 +122,8 @@ void CtrChanges::arrange()
         right        = button->Left - 150;
     }
     // The values share what the names leave.
-    const std::int32_t value = (lstChanges.Width - 240) * 2250 / 8400;
+    const std::int64_t shared = lstChanges.Width - 240;
+    const auto         value  = static_cast<std::int32_t>(shared * 2250 / 8400);
     lstChanges.setColumnWidth(1, lstChanges.Width - 240 - 2 * value);
     lstChanges.setColumnWidth(2, value);
     lstChanges.setColumnWidth(3, value);
