@@ -71,6 +71,8 @@ void registerRecords(std::vector<ClassEntry>& classes)
         .state("mstrLanguage", &CtrSettings::language)
         .state("mblnModified", &CtrSettings::isModified)
         .state("miUnitRow", &CtrSettings::unitRow)
+        .state("mastrLanguages", &CtrSettings::languages)
+        .state("mblnUnitsLoaded", &CtrSettings::areUnitsLoaded)
         .into(classes);
 }
 

@@ -19,12 +19,19 @@ void registerStatusViews(std::vector<ClassEntry>& classes)
         .state("mblnFixedClassification", &C::isClassificationFixed)
         .state("mastrMasks", &C::masks)
         .state("maiEnabled", &C::enabled)
+        .state("maiMaskByte", &C::maskBytes)
+        .state("maiMaskBit", &C::maskBits)
+        .state("miMaskLength", &C::maskLength)
+        .state("mblnConfigurationSign", &C::hasConfigurationSign)
         .into(classes);
     Class<CtrStatusF>{"CtrStatusF"}
         .creatable()
         .method("Sleep", &CtrStatusF::Sleep)
         .method("IsConfiguring", &CtrStatusF::IsConfiguring)
         .state("IsConfiguring", &CtrStatusF::IsConfiguring)
+        .state("mblnSleeping", &CtrStatusF::isSleeping)
+        .state("mblnMasksUnread", &CtrStatusF::areMasksUnread)
+        .state("mblnImported", &CtrStatusF::isImported)
         .into(classes);
     using V = StatusTreeView;
     Class<V>{"StatusTreeView"}

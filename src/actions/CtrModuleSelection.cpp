@@ -111,7 +111,8 @@ void CtrModuleSelection::SetMessenger(Messenger* messenger)
 
 void CtrModuleSelection::findDocumentsFolder(const Steps& step)
 {
-    step([&] { mDocumentsFolder = host().GetInstallPath() + "Documents\\"; });
+    // A host that fails must not leave the folder of an earlier device.
+    mDocumentsFolder = step.text([&] { return host().GetInstallPath(); }) + "Documents\\";
 }
 
 void CtrModuleSelection::Localize(Translator& translator)
@@ -171,6 +172,7 @@ void CtrModuleSelection::listModules(const Steps& step, const IXMLDOMNode& dataf
         }
     });
     ModuleSelection.Clear();
+    ModuleSelection_Click();
     // A file that cannot be read must not leave the modules of another device to choose from.
     mParameterDocument = makeDocument();
     if (!step([&] { mParameterDocument.load(mDocumentsFolder + file); })) {
@@ -180,7 +182,7 @@ void CtrModuleSelection::listModules(const Steps& step, const IXMLDOMNode& dataf
         return mParameterDocument.selectNodes("//fdt:VersionInformation");
     });
     for (const IXMLDOMNode& name : names) {
-        step([&] { ModuleSelection.AddItem(documents::attributeText(name, "name")); });
+        ModuleSelection.AddItem(step.text([&] { return documents::attributeText(name, "name"); }));
     }
 }
 

@@ -16,7 +16,7 @@ namespace quill {
 /// document that the host keeps as "FDT": its `param:Module` element, and the bus master's
 /// configuration, which is rebuilt around the module's bytes.
 ///
-/// What goes wrong is told by `ReportErrorObject`.
+/// What goes wrong in the view itself is told by `ReportErrorObject`.
 class CtrModuleSelection : public PageView {
 public:
     explicit CtrModuleSelection(const platform::Design& design = {});

@@ -126,6 +126,9 @@ void CtrCheckEdit::SetMappings(const IXMLDOMNode& mappedParam)
     // The same list again leaves the rows with their signs, which the next value judges.
     if (rows != mRows) {
         mRows = std::move(rows);
+        // No row says any more what the last value said, so it must not go out behind them.
+        mByte.reset();
+        mOriginalValue.clear();
         fillRows();
     }
     showTexts(step);

@@ -90,14 +90,14 @@ void CtrOptionEdit::setLocked(bool locked)
 
 void CtrOptionEdit::offerEntries(const Steps& step)
 {
-    const bool hadOriginal = mOriginal != kNone;
+    const bool hadOriginal = mOriginal != kNone || !mOriginalText.empty();
     mEntries.clear();
     for (const IXMLDOMNode& node : *mMappings) {
         mEntries.push_back({node, read(step, node, "name"), read(step, node, "value")});
     }
     fillOptions();
     show(kNone);
-    // The original is the same entry of the new list.
+    // The original is the same entry of the new list, also after one in between that lacked it.
     mOriginal = hadOriginal ? placeOfValue(step, mOriginalText) : kNone;
     showTexts(step);
 }
@@ -196,9 +196,8 @@ std::string CtrOptionEdit::textAt(const Steps& step, std::size_t place) const
     return place < mOptions.size() ? mOptions[place].button->Caption.get() : std::string{};
 }
 
-std::size_t CtrOptionEdit::placeOfValue(const Steps& step, const std::string& value) const
+std::size_t CtrOptionEdit::placeOfKey(const std::string& key) const
 {
-    const std::string key = valueList::keyOf(step, value, mValueType);
     for (std::size_t place = 0; place < mEntries.size(); ++place) {
         if (mEntries[place].value == key) {
             return place;
@@ -207,11 +206,17 @@ std::size_t CtrOptionEdit::placeOfValue(const Steps& step, const std::string& va
     return kNone;
 }
 
+std::size_t CtrOptionEdit::placeOfValue(const Steps& step, const std::string& value) const
+{
+    return placeOfKey(valueList::keyOf(step, value, mValueType));
+}
+
 std::size_t CtrOptionEdit::placeOf(const Steps& step, const std::string& value) const
 {
-    std::size_t place = placeOfValue(step, value);
+    const std::string key   = valueList::keyOf(step, value, mValueType);
+    std::size_t       place = placeOfKey(key);
     for (std::size_t i = 0; place == kNone && i < mOptions.size(); ++i) {
-        if (nameAt(i) == value) {
+        if (nameAt(i) == key) {
             place = i;
         }
     }

@@ -114,9 +114,11 @@ private:
     void translateEntries(const Steps& step, Translator* translator);
     void paintOptions();
 
-    /// The place of the first entry with this value; `kNone` for none.
+    /// The place of the first entry whose `value` is this text; `kNone` for none.
+    [[nodiscard]] std::size_t placeOfKey(const std::string& key) const;
+    /// The same for a value of the parameter, a number in the form of a whole one.
     [[nodiscard]] std::size_t placeOfValue(const Steps& step, const std::string& value) const;
-    /// The same, else that of the first option with this name.
+    /// The same, else that of the first option with this name, as the combo editor finds them.
     [[nodiscard]] std::size_t placeOf(const Steps& step, const std::string& value) const;
     [[nodiscard]] std::string nameAt(std::size_t place) const;
     [[nodiscard]] std::string valueAt(std::size_t place) const;

@@ -125,13 +125,17 @@ std::string CtrTimeEdit::Text() const
 
 bool CtrTimeEdit::letText(const std::string& text)
 {
-    const Steps step  = steps("Text");
-    std::string shown = text;
-    step([&] { shown = values::replaceAll(text, ".", values::decimalSeparator()); });
-    step([&] { shown = numberRules::formatted(shown, mFormat.pattern); });
-    const bool isShown = show(shown, mMessageUnit);
+    const bool isShown = show(inNumberForm(steps("Text"), text), mMessageUnit);
     mOriginalText      = Text();
     return isShown;
+}
+
+std::string CtrTimeEdit::inNumberForm(const Steps& step, const std::string& text) const
+{
+    std::string form = text;
+    step([&] { form = values::replaceAll(text, ".", values::decimalSeparator()); });
+    step([&] { form = numberRules::formatted(form, mFormat.pattern); });
+    return form;
 }
 
 void CtrTimeEdit::setText(const std::string& text)
@@ -141,7 +145,11 @@ void CtrTimeEdit::setText(const std::string& text)
 
 void CtrTimeEdit::EditText(const std::string& text)
 {
+    const bool wasCorrect = Correct();
     (void)show(text, mMessageUnit);
+    if (Correct() != wasCorrect) {
+        forwardChanges();
+    }
 }
 
 bool CtrTimeEdit::show(const std::string& text, const std::string& unit)
@@ -282,8 +290,9 @@ bool CtrTimeEdit::setImportData(const IXMLDOMNode& parameter)
         return false;
     }
     const Steps step = steps("setImportData");
-    if (!show(read(step, parameter, "value"), mMessageUnit)) {
-        EditText({});
+    // In the parameter's own decimals, so that what is sent is what is seen.
+    if (!show(inNumberForm(step, read(step, parameter, "value")), mMessageUnit)) {
+        (void)show({}, mMessageUnit);
     }
     setModified(true);
     forwardChanges();

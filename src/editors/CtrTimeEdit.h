@@ -80,6 +80,8 @@ private:
     /// Nothing where the host knows no way. Single precision.
     [[nodiscard]] std::optional<double> convert(double value, const std::string& from,
                                                 const std::string& to) const;
+    /// A number with the locale's separator and the parameter's decimals.
+    [[nodiscard]] std::string inNumberForm(const Steps& step, const std::string& text) const;
     /// What `setText` does; answers whether the boxes show the number.
     bool letText(const std::string& text);
     /// Shows a number in any unit; the same answer.

@@ -11,8 +11,8 @@ namespace quill {
 /// whose entries one is chosen.
 class ListEditor : public EditorBase, public MappedEditor {
 public:
-    /// The chosen entry by its `name`, empty for none: after every value that the program shows,
-    /// and after the user has chosen another entry.
+    /// The chosen entry by its `name`, empty for none: after every value of a document, after
+    /// another entry by `Text`, and after the user has chosen another entry.
     platform::Event<const std::string&> Change;
 
     // MappedEditor

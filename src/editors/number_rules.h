@@ -40,8 +40,8 @@ struct Format {
 [[nodiscard]] std::string formatted(const std::string& text, const std::string& pattern);
 
 /// Less than, equal to or greater than 0 as `a` is to `b`; numbers that are nearer than 0.9 of the
-/// last decimal place but two count as equal, without decimals those nearer than 0.9. "No limit" is
-/// beyond everything.
+/// second decimal place behind `decimals` count as equal, without decimals those nearer than 0.9.
+/// "No limit" is beyond everything.
 [[nodiscard]] double compare(double a, double b, std::int16_t decimals);
 /// Whether a number lies in the limits by this comparison.
 [[nodiscard]] bool isInside(double value, const Limits& limits, std::int16_t decimals);

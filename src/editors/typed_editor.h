@@ -19,8 +19,9 @@ public:
     // BoundEditor
     void handleError(const std::string& code) override;
 
-    /// Below 0, 0 or above 0 for a below, equal to or above b, equal within a tolerance of 0.9
-    /// units of the last but one decimal place behind those shown. "No limit" is beyond everything.
+    /// Below 0, 0 or above 0 for a below, equal to or above b, equal within a tolerance of 0.9 of
+    /// the second decimal place behind those shown, without decimals of 0.9. "No limit" is beyond
+    /// everything.
     [[nodiscard]] double dblAComparedToB(double a, double b) const;
 
     // What the host's developer wants to see while he looks for an error: the text that edits are

@@ -314,7 +314,9 @@ void Grid::setCellKind(int row, int col, CellKind kind)
 void Grid::setImageList(const ImageList* images)
 {
     mImages = images;
-    tell({What::rowsChanged, nullptr, 0, std::max(0, RowCount() - 1)});
+    if (RowCount() > 0) {
+        tell({What::rowsChanged, nullptr, 0, RowCount() - 1});
+    }
 }
 
 void Grid::setCellIcon(int row, int col, const std::string& key)

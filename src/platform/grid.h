@@ -135,7 +135,7 @@ public:
     /// Exactly these rows; the cursor goes to the first and keeps its column.
     UserDoor select(const std::vector<int>& rows);
     /// Folds the children of a row in or out; a row without children refuses. A cursor that would
-    /// be folded in comes to the row.
+    /// be folded in comes to the row, unless its column is hidden.
     UserDoor expand(int row, bool expanded);
 
     /// Opens a cell for typing, with the text that it has: refused where it cannot be edited or

@@ -168,19 +168,42 @@ std::int32_t length(std::string_view text)
     return count;
 }
 
+namespace {
+
+bool isAscii(std::string_view text)
+{
+    constexpr unsigned kHighBit = 0x80;
+    unsigned           bits     = 0;
+    for (const char byte : text) {
+        bits |= static_cast<unsigned char>(byte);
+    }
+    return (bits & kHighBit) == 0;
+}
+
+} // namespace
+
 std::string substring(std::string_view text, std::int32_t start, std::int32_t count)
 {
-    if (count <= 0) {
+    const std::int64_t begin = std::max(start, 0);
+    const std::int64_t end   = std::int64_t{start} + count;
+    if (end <= begin) {
         return {};
     }
-    std::int32_t place = 0;
+    // Where all characters up to the end have one byte, the place need not be walked to.
+    const auto bytes = static_cast<std::int64_t>(text.size());
+    const auto head  = static_cast<std::size_t>(std::min(end, bytes));
+    if (isAscii(text.substr(0, head))) {
+        return std::string{
+            text.substr(0, head).substr(std::min(static_cast<std::size_t>(begin), head))};
+    }
+    std::int64_t place = 0;
     std::size_t  from  = text.size();
     std::size_t  to    = text.size();
     walk(text, [&](const Step&, std::size_t at) {
-        if (place == std::max(start, 0)) {
+        if (place == begin) {
             from = at;
         }
-        if (place >= start && place - start == count) {
+        if (place == end) {
             to = at;
             return false;
         }

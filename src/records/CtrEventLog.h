@@ -154,8 +154,8 @@ private:
     /// holds a separator is passed, and `row` with it.
     void AddEventLogEvent(int& row, const eventLog::Texts& texts, const std::string& index);
     int  addRow();
-    /// Takes the obsolete events from `first` on away and numbers the rows.
-    void                      RemoveObsoleteEvents(int first);
+    /// Takes the obsolete events away and numbers the rows.
+    void                      RemoveObsoleteEvents();
     [[nodiscard]] std::string Stamp(const std::string& time, int row);
     [[nodiscard]] std::string stampSource(int row, int place, int& obsolete);
     void                      rowsChanged(const platform::WidgetChange& change);

@@ -139,7 +139,7 @@ bool CtrEventLog::listStoredEvents(const Steps& step, const IXMLDOMNode& datafil
 
 void CtrEventLog::finishStoredList(const Steps& step, const IXMLDOMNode& datafile, bool known)
 {
-    step([&] { RemoveObsoleteEvents(1); });
+    step([&] { RemoveObsoleteEvents(); });
     const std::string lastUpdate = step.text([&] {
         return documents::attributeText(
             datafile.selectSingleNode("//data:requestGroup[@name = \"eventLog\"]"), "lastUpdate");

@@ -191,7 +191,7 @@ void CtrEventLog::drawBreak(const Steps& step, int index, int indexShift)
 
 void CtrEventLog::finishRead(const Steps& step, const std::string& name, bool newList)
 {
-    step([&] { RemoveObsoleteEvents(1); });
+    step([&] { RemoveObsoleteEvents(); });
     if (mPaging.mblnReadOk) {
         if (ctrDateLabels.Tag == "date_" + name && (name != eventLog::kGroup || newList)) {
             step([&] { ctrDateLabels.setCaption(presentDate()); });
@@ -235,8 +235,11 @@ void CtrEventLog::testEndOfLog(const Steps& step, const std::optional<Texts>& la
     const auto        translation = wording(step);
     const std::string noClass     = translation(eventLog::kNoClass);
     const std::string noEvent     = translation(eventLog::kNoEvent);
-    const auto        isEnd       = [&](const Texts& texts) {
-        return (texts.eventClass == noClass && texts.event == noEvent) || texts.time == kNoTime;
+    // Without words for it a row that has no texts says nothing about the end.
+    const bool canTell = !noClass.empty() && !noEvent.empty();
+    const auto isEnd   = [&](const Texts& texts) {
+        return (canTell && texts.eventClass == noClass && texts.event == noEvent) ||
+               texts.time == kNoTime;
     };
     const bool isOver = step.value(false, [&] {
         const platform::ListItem& item = lsvEventLog.Item(lsvEventLog.Count());

@@ -85,16 +85,16 @@ void CtrEventLog::AddEventLogEvent(int& row, const eventLog::Texts& texts, const
     });
 }
 
-void CtrEventLog::RemoveObsoleteEvents(int first)
+void CtrEventLog::RemoveObsoleteEvents()
 {
     const std::string obsolete = translated(eventLog::kObsolete);
     if (obsolete != mObsoleteText) {
         mObsoleteText = obsolete; // another language
         mRowsChecked  = 0;
     }
-    first          = std::max(first, 1);
-    const int from = std::max(first, mRowsChecked + 1);
-    for (int row = lsvEventLog.Count(); row >= from; --row) {
+    const int from = mRowsChecked + 1;
+    // Without a word for it no event is obsolete, and least of all those that have no text.
+    for (int row = lsvEventLog.Count(); row >= from && !obsolete.empty(); --row) {
         if (eventLog::column(lsvEventLog.Item(row), eventLog::kEvent) == obsolete) {
             lsvEventLog.Remove(row);
         }
@@ -106,9 +106,7 @@ void CtrEventLog::RemoveObsoleteEvents(int first)
                 row, [&](ListItem& item) { eventLog::setColumn(item, eventLog::kRow, number); });
         }
     }
-    if (first <= mRowsChecked + 1) {
-        mRowsChecked = lsvEventLog.Count();
-    }
+    mRowsChecked = lsvEventLog.Count();
 }
 
 /// A row that changes in whatever way, and those behind a row that comes or goes, are to be checked

@@ -319,7 +319,7 @@ void CtrSettings::scgUnits_CellSelectionChange(int row, int col)
     }
     const Steps          step{mMessenger, "scgUnits_CellSelectionChange , " + std::to_string(col)};
     UnitConverter* const units   = converter(step);
-    const std::string    key     = keyOf(row);
+    const std::string    key     = step.text([&] { return keyOf(row); });
     const auto           choices = step.value(std::optional<IXMLDOMNodeList>{},
                                               [&] { return existing(units).GetUnitChoices(key); });
     miUnitRow                    = row;
@@ -350,6 +350,7 @@ void CtrSettings::showBaseUnits(const std::string& system)
 {
     const Steps          step  = steps("showBaseUnits ");
     UnitConverter* const units = converter(step);
+    scgUnits.cancelEdit();
     for (int row = 1; row <= scgUnits.RowCount(); ++row) {
         step([&] {
             const auto data = existing(units).GetUnitSystemData(keyOf(row));
@@ -415,6 +416,13 @@ void CtrSettings::ClassifyStatuses()
 
 void CtrSettings::cmdApply_Click()
 {
+    // What still stands open in a cell is what the user means, too.
+    (void)scgUnits.commitEdit();
+    apply();
+}
+
+void CtrSettings::apply()
+{
     Translate();
     ConvertUnits();
     ClassifyStatuses();
@@ -430,8 +438,9 @@ void CtrSettings::leave(const char* procedure)
 
 void CtrSettings::cmdOK_Click()
 {
+    (void)scgUnits.commitEdit(); // hidden, the grid has nothing open any more
     Visible = false;
-    cmdApply_Click();
+    apply();
     leave("cmdOK_Click");
 }
 

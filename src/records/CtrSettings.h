@@ -142,7 +142,13 @@ public:
     [[nodiscard]] bool               isModified() const noexcept { return mblnModified; }
     [[nodiscard]] const std::string& language() const noexcept { return mstrLanguage; }
     /// The row of the unit that was opened for a choice last, 0 for none.
-    [[nodiscard]] int unitRow() const noexcept { return miUnitRow; }
+    [[nodiscard]] const std::vector<std::string>& languages() const noexcept
+    {
+        return mastrLanguages;
+    }
+    /// The quantities are in the grid.
+    [[nodiscard]] bool areUnitsLoaded() const noexcept { return mblnUnitsLoaded; }
+    [[nodiscard]] int  unitRow() const noexcept { return miUnitRow; }
 
 private:
     void UserControl_Initialize();
@@ -150,6 +156,7 @@ private:
     void UserControl_KeyDown(platform::KeyPress& key);
     void scgUnits_CellSelectionChange(int row, int col);
     void cmdApply_Click();
+    void apply();
     void cmdOK_Click();
     void cmdCancel_Click();
 

@@ -4,7 +4,6 @@
 #include "status/StatusSeverity.h"
 #include "status/StatusTreeView.h"
 
-#include <array>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -55,6 +54,16 @@ public:
     [[nodiscard]] const std::vector<std::string>& masks() const noexcept { return mastrMasks; }
     /// 1 for a row that is switched on, 0 for one that is off, by row index.
     [[nodiscard]] const std::vector<std::int16_t>& enabled() const noexcept { return maiEnabled; }
+    /// The place of a row in the masks, -1 for none, by row index.
+    [[nodiscard]] const std::vector<std::int16_t>& maskBytes() const noexcept
+    {
+        return maiMaskByte;
+    }
+    [[nodiscard]] const std::vector<std::int16_t>& maskBits() const noexcept { return maiMaskBit; }
+    /// Digits of a part of the mask.
+    [[nodiscard]] std::int16_t maskLength() const noexcept { return miMaskLength; }
+    /// Somebody has changed the device's configuration, as the last response told.
+    [[nodiscard]] bool hasConfigurationSign() const noexcept { return mblnConfigurationSign; }
 
 protected:
     [[nodiscard]] IQornStatusClass& statusClass() override { return existing(mobjStatusClass); }
@@ -95,7 +104,6 @@ private:
                    int part);
     [[nodiscard]] bool                        HasMask(int index);
     [[nodiscard]] std::optional<std::uint8_t> GetMaskByte(const std::string& mask, int position);
-    void SetMaskByte(std::string& mask, int position, std::uint8_t value);
 
     void showRow(Pass& pass, const IXMLDOMNode& response, int index);
     void forwardConfigurationSign(const Steps& step, const IXMLDOMNode& response);

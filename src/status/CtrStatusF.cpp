@@ -317,7 +317,9 @@ void CtrStatusF::showRow(Pass& pass, const IXMLDOMNode& response, int index, std
         image = step.text([&] { return statusClass().ImageOk(); });
     }
     step([&] { imageAt(index) = image; });
-    if (!isIconInUse(index)) {
+    if (isIconInUse(index)) {
+        mDescriptions.keepState(index + 1, state);
+    } else {
         if (!image.empty() && (image != oldImage || mblnIconsGone)) {
             step([&] { setIcon(index, image); });
         }

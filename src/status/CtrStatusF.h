@@ -17,8 +17,8 @@ namespace quill {
 /// toggles; the download writes the masks, to the device or, offline, into the datafile.
 ///
 /// A response "deviceStatus" brings the conditions' values, "deviceStatusMasks" the masks. After
-/// each datafile the view asks once for the masks, behind the first complete status. A condition
-/// that has gone keeps its mark until the device tells otherwise.
+/// each datafile the view asks for the masks behind every complete status until it has them. A
+/// condition that has gone keeps its mark until the device tells otherwise.
 ///
 /// The host hears of the configuration by `NotifyDialog`.
 class CtrStatusF : public StatusTreeView {
@@ -57,6 +57,11 @@ public:
     void Sleep(bool isIdle);
     /// The icons are check marks: `cmdDownload` is visible.
     [[nodiscard]] bool IsConfiguring() const { return cmdDownload.Visible; }
+    [[nodiscard]] bool isSleeping() const noexcept { return mblnSleeping; }
+    /// The device's masks have not come yet since the datafile came.
+    [[nodiscard]] bool areMasksUnread() const noexcept { return mblnMasksUnread; }
+    /// The masks come from an import.
+    [[nodiscard]] bool isImported() const noexcept { return mblnImported; }
 
 protected:
     [[nodiscard]] IQornStatusClass& statusClass() override

@@ -8,6 +8,7 @@ namespace quill {
 
 namespace {
 
+constexpr const char* kCheck         = "check"; ///< in the key of every check mark
 constexpr const char* kCheckEnabled  = "checkEnabled";
 constexpr const char* kCheckDisabled = "checkDisabled";
 constexpr const char* kModified      = "modified";
@@ -41,7 +42,8 @@ std::string CtrStatusF::checkMarkOf(const std::string& key)
 
 bool CtrStatusF::isIconInUse(int index)
 {
-    return IsConfiguring() && silentSteps().value(false, [&] { return !hasChildren(index); });
+    return IsConfiguring() &&
+           silentSteps().value(false, [&] { return values::contains(iconAt(index), kCheck); });
 }
 
 void CtrStatusF::setCheckMark(int index, const std::string& key)
@@ -140,7 +142,9 @@ void CtrStatusF::takeCheckMark(const Steps& step, int index, bool offline)
     }
     step([&] { configuration().SetEnabled(key, false); });
     step([&] { imageAt(index) = statusClass().ImageDisabled(); });
-    if (!offline) {
+    if (offline) {
+        mDescriptions.keepState(index + 1, ConditionState::switchedOff);
+    } else {
         step([&] { showIcon(step, index, imageAt(index), ConditionState::switchedOff); });
     }
 }

@@ -121,12 +121,19 @@ void CtrStatus::rebuildOnOffMask(const Steps& step, MaskPart place)
         return GetMaskByte(entryAt(mastrMasks, place.part + maskClass * place.count - 1), position)
             .value_or(0);
     };
+    // Written at once: byte by byte, a long mask would be copied for each of its bytes.
+    std::string fresh;
     for (int position = 0; position < statusMasks::bytesInPart(miMaskLength); ++position) {
         step([&] {
             const auto byte = static_cast<std::uint8_t>(
                 byteOf(kInfo, position) | byteOf(kWarning, position) | byteOf(kAlarm, position));
-            SetMaskByte(entryAt(mastrMasks, place.part - 1), position, byte);
+            (void)entryAt(mastrMasks, place.part - 1);
+            fresh += statusMasks::digitsOf(byte);
         });
+    }
+    if (!fresh.empty()) {
+        std::string& mask = entryAt(mastrMasks, place.part - 1);
+        mask              = fresh + utf8::substring(mask, static_cast<std::int32_t>(fresh.size()));
     }
 }
 
@@ -182,13 +189,6 @@ bool CtrStatus::HasMask(int index)
 std::optional<std::uint8_t> CtrStatus::GetMaskByte(const std::string& mask, int position)
 {
     return statusMasks::readByte(steps("GetMaskByte"), mask, position);
-}
-
-void CtrStatus::SetMaskByte(std::string& mask, int position, std::uint8_t value)
-{
-    // The place's name is what the host's support looks for.
-    const Steps step{GetMessenger(), "CtrStatusConfiguration GetMaskByte: "};
-    step([&] { mask = statusMasks::setByte(mask, position, value); });
 }
 
 } // namespace quill

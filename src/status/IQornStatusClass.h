@@ -22,7 +22,7 @@ public:
     [[nodiscard]] virtual std::string ImageNotRead() const = 0;
     /// The class of a condition of which nothing is known any more.
     [[nodiscard]] virtual std::string ImageUnknown() const = 0;
-    /// The class of a condition, empty for one that was never read.
+    /// The class of a condition, empty for one that is not known.
     [[nodiscard]] virtual std::string GetClass(const std::string& name) const = 0;
     /// Gives a condition another class. The classifications differ in whether one that was never
     /// read is added.

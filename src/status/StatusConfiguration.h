@@ -19,7 +19,7 @@ namespace quill {
 /// Rows are conditions, numbered as the view numbers them. Only a row with a byte and a bit takes
 /// part in mask work. Order of use: `SetMaskProperties`, `SetMessenger`, `AddBit` for each
 /// condition, `SetOfflineParameters`, and then the others as things happen. Failures are reported
-/// to the Messenger and change nothing.
+/// to the Messenger; a step that fails changes nothing.
 class StatusConfiguration : public IQornComponent, public IQornDataEditor {
 public:
     // IQornComponent

@@ -214,7 +214,9 @@ void StatusTreeView::showError(const Steps& step, const IXMLDOMNode& response)
 
     const auto showRow = [&](int index) {
         step([&] { imageAt(index) = image; });
-        if (!isIconInUse(index)) {
+        if (isIconInUse(index)) {
+            mDescriptions.keepState(index + 1, ConditionState::unknown);
+        } else {
             showIcon(step, index, image, ConditionState::unknown);
         }
     };

@@ -41,7 +41,7 @@ public:
     // IQornView
     void RequestFocus() override;
 
-    /// The worst class of all rows, as it was last told to the host.
+    /// The worst class of all rows, as the host was last to be told.
     [[nodiscard]] const std::string& CombinedStatus() const noexcept { return mstrCombinedStatus; }
     /// A status that differs from the last one is told to the host.
     void setCombinedStatus(const std::string& status);

@@ -64,15 +64,15 @@ void StatusTreeView::loadBranch(const Steps& step, const IXMLDOMNode& branch, co
 int StatusTreeView::addRow(const Steps& step, int parent, const std::string& name,
                            const std::string& icon)
 {
-    const int row = scgStatus.AddRow(parent);
-    scgStatus.setCellText(row, 1, name);
+    const int row = step.value(0, [&] { return scgStatus.AddRow(parent); });
+    step([&] { scgStatus.setCellText(row, 1, name); });
     const auto state = parent == 0 ? ConditionState::none : ConditionState::notRead;
     if (icon.empty()) {
         mDescriptions.show(row, icon, state);
     } else {
         showIcon(step, row - 1, icon, state);
     }
-    scgStatusKey.setCellText(scgStatusKey.AddRow(parent), 1, name);
+    step([&] { scgStatusKey.setCellText(scgStatusKey.AddRow(parent), 1, name); });
     return row;
 }
 

@@ -57,6 +57,13 @@ void RowDescriptions::showImage(int row, const std::string& image)
     }
 }
 
+void RowDescriptions::keepState(int row, ConditionState state)
+{
+    if (Shown* const shown = at(row)) {
+        shown->state = state;
+    }
+}
+
 RowDescriptions::Shown* RowDescriptions::at(int row)
 {
     if (row < 1 || row > mGrid.RowCount()) {

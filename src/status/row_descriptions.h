@@ -45,6 +45,9 @@ public:
     /// The image alone; what is known of the condition stays. Without an image, and with the image
     /// of a check mark, that is not spoken.
     void showImage(int row, const std::string& image);
+    /// What is known of the condition alone, for a row that shows something else meanwhile: it is
+    /// spoken with the next image.
+    void keepState(int row, ConditionState state);
 
 private:
     struct Shown {

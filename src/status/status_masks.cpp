@@ -114,14 +114,4 @@ std::optional<std::uint8_t> readByte(const Steps& step, const std::string& mask,
     return byte;
 }
 
-std::string setByte(const std::string& mask, int place, std::uint8_t value)
-{
-    expectPlace(place);
-    if (place > kLastPlace) {
-        return mask + digitsOf(value);
-    }
-    return utf8::substring(mask, 0, place * kDigitsOfByte) + digitsOf(value) +
-           utf8::substring(mask, (place + 1) * kDigitsOfByte);
-}
-
 } // namespace quill::statusMasks

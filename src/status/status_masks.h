@@ -50,8 +50,5 @@ struct Position {
 /// The same in a step: 0 for digits that cannot be read, nothing for a place that no mask has.
 [[nodiscard]] std::optional<std::uint8_t> readByte(const Steps& step, const std::string& mask,
                                                    int place);
-/// The mask with another byte in that place, as two upper-case digits, whatever stood there.
-/// Failure 5 for a place below 0.
-[[nodiscard]] std::string setByte(const std::string& mask, int place, std::uint8_t value);
 
 } // namespace quill::statusMasks

@@ -166,10 +166,32 @@ TEST_F(CtrModuleSelectionTest, AfterALoadThatFailsNoModuleOfTheFileBeforeCanBeAp
 
 TEST_F(CtrModuleSelectionTest, AHostWithoutADocumentEndsTheLoad)
 {
+    load();
     messenger.hostDocuments.clear();
     view.SetOfflineData(datafile);
     EXPECT_EQ(view.ModuleSelection.ListCount(), 4);
     EXPECT_EQ(view.ModuleSelection.Text(), "");
+    EXPECT_EQ(view.ModuleSelection.ToolTipText.get(), "") << "not the module of the load before";
+}
+
+TEST_F(CtrModuleSelectionTest, AHostThatCannotTellItsFolderLeavesNoModulesOfAnEarlierOne)
+{
+    load();
+    messenger.failOn("GetInstallPath");
+    view.SetOfflineData(datafile);
+    EXPECT_EQ(view.ModuleSelection.ListCount(), 0);
+    EXPECT_THAT(reports(), ElementsAre(HasSubstr("CtrModuleSelection SetOfflineData: , 5"),
+                                       HasSubstr("CtrModuleSelection SetOfflineData: , 53")));
+}
+
+TEST_F(CtrModuleSelectionTest, AModuleWithoutANameIsReportedAndListedWithout)
+{
+    write(moduleDocument(module("M1", "11") +
+                         "<p:Module configurationData=\"22\"><f:VersionInformation/></p:Module>" +
+                         module("M2", "33")));
+    view.SetOfflineData(datafile);
+    EXPECT_THAT(view.ModuleSelection.List(), ElementsAre("M1", "", "M2"));
+    EXPECT_THAT(reports(), ElementsAre(HasSubstr("CtrModuleSelection SetOfflineData: , 91")));
 }
 
 TEST_F(CtrModuleSelectionTest, TheChosenModuleGoesIntoTheHostsDocument)

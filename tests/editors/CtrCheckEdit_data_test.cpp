@@ -80,6 +80,17 @@ TEST_F(CheckEditData, AValueThatIsNoByteCostsTheRowsAlone)
     EXPECT_TRUE(edit.scgCheck.Editable);
 }
 
+TEST_F(CheckEditData, AnotherListLeavesNothingOfTheOldValueToBeSent)
+{
+    loadQuietly("133", "1");
+    load("", "0", R"(<data:mapping value="1" name="low"/>)");
+    EXPECT_THAT(rows(), ElementsAre("o"));
+    EXPECT_FALSE(edit.GetXmlItem(false)) << "nothing is shown";
+    EXPECT_EQ(edit.originalValue(), "");
+    click(1);
+    EXPECT_THAT(edit.GetXmlItem(false).get_xml(), HasSubstr("<bitEnumVal>1</bitEnumVal>"));
+}
+
 TEST_F(CheckEditData, StaysBoundToItsFirstParameter)
 {
     load("5");

@@ -76,6 +76,12 @@ TEST_F(OptionEditData, AValueMayBeGivenByName)
     EXPECT_THAT(changes, ElementsAre("auto"));
 }
 
+TEST_F(OptionEditData, ANumberIsLookedUpByNameInItsWholeForm)
+{
+    load("1.0", "1", R"(<data:mapping value="5" name="1"/>)", "floatVal");
+    EXPECT_EQ(edit.Selected(), "5");
+}
+
 TEST_F(OptionEditData, AValueBeforeAnyListShowsNothing)
 {
     give("1", "1");

@@ -108,6 +108,20 @@ TEST_F(OptionEdit, TheOriginalFollowsItsEntryIntoAnotherList)
     EXPECT_FALSE(edit.Modified());
 }
 
+TEST_F(OptionEdit, TheOriginalIsFoundAgainBehindAListThatLacksIt)
+{
+    loadQuietly("1");
+    const IXMLDOMNode list = mappedParam();
+    edit.SetMappings(
+        test::datafile("", R"(<data:mappedParam name="mode"><data:mapping value="7" name="auto"/>)"
+                           R"(</data:mappedParam>)")
+            .selectSingleNode("//data:mappedParam"));
+    edit.SetMappings(list);
+    EXPECT_EQ(edit.originalText(), "1");
+    edit.setSelected("1");
+    EXPECT_FALSE(edit.Modified());
+}
+
 TEST_F(OptionEdit, AnUnboundEditorWritesNothing)
 {
     give("1", "1");

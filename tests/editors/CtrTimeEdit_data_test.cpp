@@ -340,6 +340,15 @@ TEST_F(TimeEditData, TakesAnImportAsAnUnsavedEdit)
     EXPECT_FALSE(edit.Modified());
 }
 
+TEST_F(TimeEditData, AnImportIsSeenAsItIsSent)
+{
+    loadQuietly({{"unit", "h"}, {"decimals", "0"}});
+    give({{"unit", "h"}, {"decimals", "0"}, {"value", "1.5"}});
+    edit.setImportData(parameter());
+    EXPECT_THAT(boxes(), ElementsAre("0", "2", "0", "0"));
+    EXPECT_EQ(edit.Text(), "2");
+}
+
 // --- Items and bookings -----------------------------------------------------------------------
 
 TEST_F(TimeEditData, TheItemCarriesOneNumberAndItsUnit)

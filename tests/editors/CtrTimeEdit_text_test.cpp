@@ -12,6 +12,7 @@ using testing::Contains;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
+using testing::SizeIs;
 
 class TimeEditText : public TimeEditTest {};
 class TimeEditTextWithComma : public TimeEditTestWithComma {};
@@ -94,9 +95,12 @@ TEST_F(TimeEditText, WhatTheProgramShowsEndsAWrongState)
     loadQuietly();
     type(0, "x");
     EXPECT_FALSE(edit.Correct());
+    forget();
     edit.EditText("2");
     EXPECT_TRUE(edit.Correct());
     EXPECT_TRUE(edit.Modified());
+    EXPECT_EQ(edit.changeState(), "corrected");
+    EXPECT_THAT(messenger.actions(), SizeIs(1)) << "the host hears of it";
     EXPECT_EQ(edit.txtBox[0].ForeColor, editorColors::kBlue);
     EXPECT_EQ(edit.originalText(), "1.5");
 }

@@ -20,6 +20,10 @@ TEST(Utf8Test, CountsAndCutsByCodePoint)
     EXPECT_EQ(utf8::substring("käyttö", 4), "tö");
     EXPECT_EQ(utf8::substring("käyttö", 6), "");
     EXPECT_EQ(utf8::substring("käyttö", 0, 0), "");
+    EXPECT_EQ(utf8::substring("käyttö", 0, 1), "k") << "what stands behind has another length";
+    EXPECT_EQ(utf8::substring("valve", -1, 2), "v") << "from before the beginning";
+    EXPECT_EQ(utf8::substring("valve", 3, 9), "ve");
+    EXPECT_EQ(utf8::substring("valve", 9, 1), "");
     EXPECT_THAT(utf8::characters("aä😀"), ElementsAre("a", "ä", "😀"));
     EXPECT_EQ(utf8::codePoint("€"), 0x20ACU);
     EXPECT_EQ(utf8::fromCodePoint(0x1F600), "😀");

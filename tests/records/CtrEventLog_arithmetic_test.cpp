@@ -3,6 +3,7 @@
 #include "records/event_log_times.h"
 
 #include "platform/failure.h"
+#include "support/failure_of.h"
 #include "support/toolkit_scope.h"
 
 #include <gmock/gmock.h>
@@ -11,16 +12,6 @@ namespace quill::test {
 namespace {
 
 using namespace platform;
-
-int failureOf(const std::function<void()>& call)
-{
-    try {
-        call();
-    } catch (const Failure& failure) {
-        return failure.number();
-    }
-    return 0;
-}
 
 const std::string kHead = "<?xml version=\"1.0\"?><dtm xmlns=\"x-schema:QVXCommunicationSchema."
                           "xml\"><communicationRequest ";

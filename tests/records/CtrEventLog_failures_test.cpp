@@ -1,10 +1,11 @@
 // Pages of events in documents and from hosts that fail, and hosts without texts.
 #include "event_log_fixture.h"
 
+#include "support/some_and_each.h"
+
 namespace quill::test {
 namespace {
 
-using testing::Each;
 using testing::ElementsAre;
 using testing::HasSubstr;
 using testing::IsEmpty;
@@ -50,8 +51,18 @@ TEST_F(HartLogTest, AHostWithoutATranslatorShowsTimesOnly)
     receive({{0, "a", "c", "1"}, {1, "b", "c", ""}});
     ASSERT_EQ(view.lsvEventLog.Count(), 1);
     EXPECT_THAT(row(1), ElementsAre("", "", "1.0000", "", "0", ""));
-    EXPECT_THAT(host.errors(), Each(StartsWith("ReportError(CtrEventLog "
-                                               "IQornDataUser_setOnlineData: , 91, ")));
+    EXPECT_THAT(host.errors(), SomeAndEach(StartsWith("ReportError(CtrEventLog "
+                                                      "IQornDataUser_setOnlineData: , 91, ")));
+}
+
+TEST_F(HartLogTest, WithoutWordsForItNothingIsObsoleteAndNothingIsTheEnd)
+{
+    translator.texts["eventObsolete"]        = "";
+    translator.texts["vx4400eventNone"]      = "";
+    translator.texts["vx4400eventClassNone"] = "";
+    receive({{0, "a", "c", "2"}, {1, "vx4400eventNone", "vx4400eventClassNone", "1"}});
+    EXPECT_THAT(events(), ElementsAre("t:a", ""));
+    EXPECT_TRUE(view.cmdNext.Enabled);
 }
 
 TEST_F(HartLogTest, ATextThatFailsCostsItsColumn)

@@ -376,6 +376,36 @@ TEST_F(CtrSettingsTest, TheButtonsHaveThePictureOfThePanelInEveryState)
     EXPECT_EQ(view.cmdApply.DownPicture, view.ctrTBLaunchedPanel.imlPanel.first());
 }
 
+TEST_F(CtrSettingsTest, AUnitThatIsStillBeingEnteredCountsAtOK)
+{
+    show();
+    ASSERT_EQ(view.scgUnits.typeCell(1, 2, "psi"), platform::UserDoor::done);
+    (void)view.cmdOK.click();
+    EXPECT_THAT(shownUnits(), ElementsAre("psi", ""));
+    EXPECT_EQ(converter.displayUnits["pressure"], "psi");
+    EXPECT_FALSE(view.isModified());
+}
+
+TEST_F(CtrSettingsTest, ASystemOfUnitsTakesThePlaceOfWhatIsStillBeingEntered)
+{
+    show();
+    ASSERT_EQ(view.scgUnits.typeCell(1, 2, "psi"), platform::UserDoor::done);
+    (void)view.cmdSI.click();
+    ASSERT_EQ(view.scgUnits.edit(2, 2, "degF"), platform::UserDoor::done);
+    EXPECT_THAT(shownUnits(), ElementsAre("kPa", "degF"));
+}
+
+TEST_F(CtrSettingsTest, ARowThatIsNotOfTheViewIsReported)
+{
+    show();
+    view.scgUnits.setRowCount(3);
+    ASSERT_EQ(view.scgUnits.clickCell(3, 2), platform::UserDoor::done);
+    EXPECT_THAT(messenger.errors(),
+                testing::Contains("ReportError(scgUnits_CellSelectionChange , 2, 9, Subscript out "
+                                  "of range)"));
+    EXPECT_EQ(view.unitRow(), 3);
+}
+
 TEST_F(CtrSettingsTest, EscapeCancels)
 {
     show();

@@ -68,6 +68,20 @@ TEST_F(CtrStatusFConfiguration, RowsThatTheNextStatusLeavesOutGetTheirIconToo)
     EXPECT_EQ(view.scgStatus.RowDescription(2), "a, deviceFailure, statusActive");
 }
 
+TEST_F(CtrStatusFConfiguration, WhatTheDeviceToldMeanwhileIsSaidAfterwards)
+{
+    enter();
+    online(statusItem("a", "0") + statusItem("b", "0"));
+    (void)view.cmdConfiguration.click();
+    online(statusItem("c", "1"));
+    EXPECT_EQ(view.scgStatus.RowDescription(2), "a, deviceFailure, statusNotActive");
+    enter();
+    view.SetErrorData(errorResponse("deviceStatus"));
+    (void)view.cmdConfiguration.click();
+    online(statusItem("c", "1"));
+    EXPECT_EQ(view.scgStatus.RowDescription(2), std::string("a, ") + kOff + ", statusUnknown");
+}
+
 TEST_F(CtrStatusFConfiguration, LeavingTheViewEndsTheConfiguration)
 {
     enter();

@@ -40,6 +40,18 @@ TEST_F(CtrStatusFConfiguration, ADownloadWritesTheMasksToTheDevice)
     EXPECT_EQ(file.selectSingleNode("//data:parameter/@synchronised").get_text(), "0");
 }
 
+TEST_F(CtrStatusFConfiguration, WhatWasDownloadedFollowsTheStatusWhileTheAnswerIsAwaited)
+{
+    enter();
+    click(2); // off
+    click(5); // on
+    (void)view.cmdDownload.click();
+    online(statusItem("a", "1") + statusItem("b", "0") + statusItem("c", "1"));
+    EXPECT_THAT(icons(), ElementsAre(testing::_, kOff, "checkEnabled", "deviceUnderTest",
+                                     "deviceUnderTest"));
+    EXPECT_EQ(view.scgStatus.RowDescription(5), "c, deviceUnderTest, statusActive");
+}
+
 TEST_F(CtrStatusFConfiguration, ADownloadIsLoggedFromBeginToEnd)
 {
     enter();

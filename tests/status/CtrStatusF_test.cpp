@@ -1,11 +1,15 @@
 #include "tests/status/configurable_view_fixture.h"
 
+#include "support/some_and_each.h"
+
 // `CtrStatusF` while it shows: tree, modes, life, form.
 namespace quill::test {
 namespace {
 
+using testing::Contains;
 using testing::Each;
 using testing::ElementsAre;
+using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::SizeIs;
 using testing::StartsWith;
@@ -81,7 +85,8 @@ TEST_F(CtrStatusFView, FaultsOfTheDefinitionGoToTheDebugOutput)
     CtrStatusF fresh;
     messenger.deviceTypeInfo = {};
     fresh.SetMessenger(&messenger);
-    EXPECT_THAT(toolkit.debugLines, Each(StartsWith("CtrStatusF LoadStatusTree error 91: ")));
+    EXPECT_THAT(toolkit.debugLines,
+                SomeAndEach(StartsWith("CtrStatusF LoadStatusTree error 91: ")));
     EXPECT_FALSE(toolkit.debugLines.empty());
     EXPECT_THAT(messenger.errors(), IsEmpty());
 }
@@ -283,6 +288,18 @@ TEST_F(CtrStatusFView, ButtonsStandBelowTheTreeAndShowTheirWholeText)
         }
         EXPECT_GT(view.scgStatus.Height, 0);
     }
+}
+
+TEST_F(CtrStatusFView, GridsThatSomebodyHasClearedCostTheRowsAndNotTheLoad)
+{
+    view.scgStatus.Clear();
+    view.scgStatusKey.Clear();
+    messenger.clear();
+    toolkit.debugLines.clear();
+    view.SetMessenger(&messenger);
+    EXPECT_THAT(toolkit.debugLines, Contains(HasSubstr("CtrStatusF LoadStatusTree error 9: ")));
+    EXPECT_THAT(messenger.callsTo("WriteLog").back(), HasSubstr("leaving"));
+    EXPECT_EQ(view.lastRow(), 3);
 }
 
 TEST_F(CtrStatusFView, AToolkitThatCannotMeasureStillLeavesButtonsOfUsableSize)

@@ -166,38 +166,11 @@ TEST(StatusMasks, ReadInAStepWhatCannotBeReadIsZeroAndAPlaceThatCannotBeIsNone)
 TEST(StatusMasks, PlacesCountCharactersAndNotBytesOfTheEncoding)
 {
     EXPECT_EQ(getByte("ää7F", 1), 0x7f);
-    EXPECT_EQ(setByte("ää7F", 1, 1), "ää01");
 }
 
 TEST(StatusMasks, APlaceBelowZeroIsAnInvalidCall)
 {
     EXPECT_EQ(failureOf([] { std::ignore = getByte("00", -1); }), platform::kInvalidCall);
-    EXPECT_EQ(failureOf([] { std::ignore = setByte("00", -1, 0); }), platform::kInvalidCall);
-}
-
-TEST(StatusMasks, WritesAByteInUpperCaseAndLeavesTheOthersAsTheyStand)
-{
-    EXPECT_EQ(setByte("aabbcc", 0, 0x0f), "0Fbbcc");
-    EXPECT_EQ(setByte("aabbcc", 1, 0xde), "aaDEcc");
-    EXPECT_EQ(setByte("aabbcc", 2, 0), "aabb00");
-}
-
-TEST(StatusMasks, AByteBehindTheEndIsAppended)
-{
-    EXPECT_EQ(setByte("aa", 1, 1), "aa01");
-    EXPECT_EQ(setByte("aa", 5, 1), "aa01");
-    EXPECT_EQ(setByte("", 0, 1), "01");
-    EXPECT_EQ(setByte("aa", INT_MAX, 1), "aa01");
-}
-
-TEST(StatusMasks, AHalfByteAtTheEndIsReplacedByAWholeOne)
-{
-    EXPECT_EQ(setByte("aab", 1, 1), "aa01");
-}
-
-TEST(StatusMasks, WhatIsNotHexadecimalIsReplacedAllTheSame)
-{
-    EXPECT_EQ(setByte("GG00", 0, 0x80), "8000");
 }
 
 } // namespace
