@@ -1,21 +1,16 @@
 #include "shell/folders.h"
 
-#include <QStandardPaths>
-
 namespace quill::shell {
 
-namespace {
-
-std::string place(QStandardPaths::StandardLocation location)
+std::string systemFolder(QStandardPaths::StandardLocation location)
 {
     return (QStandardPaths::writableLocation(location) + '/').toStdString();
 }
 
-} // namespace
-
 Folders Folders::ofUser()
 {
-    return {place(QStandardPaths::AppConfigLocation), place(QStandardPaths::AppLocalDataLocation)};
+    return {systemFolder(QStandardPaths::AppConfigLocation),
+            systemFolder(QStandardPaths::AppLocalDataLocation)};
 }
 
 Folders Folders::in(std::string folder)

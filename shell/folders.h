@@ -1,8 +1,13 @@
 #pragma once
 
+#include <QStandardPaths>
+
 #include <string>
 
 namespace quill::shell {
+
+/// A folder that the system has for this program and this user, with a separator at its end.
+[[nodiscard]] std::string systemFolder(QStandardPaths::StandardLocation location);
 
 /// Where the program keeps what it wants to find again: folders with a separator at their ends.
 /// Nothing is kept in a folder without a name.

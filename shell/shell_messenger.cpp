@@ -5,8 +5,7 @@
 #include "platform/failure.h"
 #include "qt/text.h"
 #include "shell/device_build.h"
-
-#include <QStandardPaths>
+#include "shell/folders.h"
 
 namespace quill::shell {
 
@@ -17,11 +16,6 @@ using qt::toQt;
 constexpr const char* kAddress = "pollingAddress";
 
 constexpr std::int16_t kDeviceLevel = 1; ///< of a combined status
-
-std::string folder(QStandardPaths::StandardLocation location)
-{
-    return (QStandardPaths::writableLocation(location) + '/').toStdString();
-}
 
 /// What happens while it lives is the program's doing and no edit.
 class Loading {
@@ -192,12 +186,12 @@ std::string ShellMessenger::GetInstallPath()
 
 std::string ShellMessenger::GetWorkPath()
 {
-    return folder(QStandardPaths::CacheLocation);
+    return systemFolder(QStandardPaths::CacheLocation);
 }
 
 std::string ShellMessenger::GetUserDataPath()
 {
-    return folder(QStandardPaths::AppDataLocation);
+    return systemFolder(QStandardPaths::AppDataLocation);
 }
 
 void ShellMessenger::BookChange(IQornDataEditor& editor, const std::string& tag,

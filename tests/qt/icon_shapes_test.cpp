@@ -87,6 +87,15 @@ protected:
         EXPECT_TRUE(from <= to ? hue >= from && hue <= to : hue >= from || hue <= to)
             << key << " " << fill.name().toStdString() << " hue " << hue;
     }
+    /// A triangle, followed from its side to its point.
+    static void expectNarrowing(const Outline& outline, const std::vector<double>& heights)
+    {
+        EXPECT_GT(outline.at(heights.front()), 0.8);
+        EXPECT_LT(outline.at(heights.back()), 0.4);
+        for (std::size_t i = 2; i + 1 < heights.size(); ++i) {
+            EXPECT_GT(outline.at(heights[i - 1]), outline.at(heights[i])) << heights[i];
+        }
+    }
 };
 
 INSTANTIATE_TEST_SUITE_P(Sizes, NamurPictures, testing::Values(16, 20, 24, 32, 48, 64));
@@ -106,24 +115,16 @@ TEST_P(NamurPictures, AFailureIsARedCircle)
 
 TEST_P(NamurPictures, AFunctionCheckIsAnOrangeTriangleThatPointsDown)
 {
-    const QImage  image = drawn("deviceUnderTest", GetParam());
-    const Outline outline(image);
+    const QImage image = drawn("deviceUnderTest", GetParam());
     expectHue("deviceUnderTest", fillOf(image), 18, 42);
-    EXPECT_GT(outline.at(0.1), 0.8);
-    EXPECT_LT(outline.at(0.9), 0.4);
-    EXPECT_GT(outline.at(0.25), outline.at(0.5));
-    EXPECT_GT(outline.at(0.5), outline.at(0.75));
+    expectNarrowing(Outline(image), {0.1, 0.25, 0.5, 0.75, 0.9});
 }
 
 TEST_P(NamurPictures, OutOfSpecificationIsAYellowTriangleThatPointsUp)
 {
-    const QImage  image = drawn("deviceOffSpecification", GetParam());
-    const Outline outline(image);
+    const QImage image = drawn("deviceOffSpecification", GetParam());
     expectHue("deviceOffSpecification", fillOf(image), 43, 65);
-    EXPECT_GT(outline.at(0.9), 0.8);
-    EXPECT_LT(outline.at(0.1), 0.4);
-    EXPECT_LT(outline.at(0.25), outline.at(0.5));
-    EXPECT_LT(outline.at(0.5), outline.at(0.75));
+    expectNarrowing(Outline(image), {0.9, 0.75, 0.5, 0.25, 0.1});
 }
 
 TEST_P(NamurPictures, MaintenanceRequiredIsABlueDiamond)

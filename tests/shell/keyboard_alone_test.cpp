@@ -21,7 +21,7 @@ TEST_F(ByKeyboardAlone, TheStatusIsFoundReadAndFolded)
     auto& status = view<StatusTreeView>("status");
     EXPECT_EQ(QApplication::focusWidget(), &shown(status.scgStatus));
     readByKey();
-    EXPECT_EQ(icon(status, "statusCoverOpen"), "warning");
+    EXPECT_EQ(iconOf(status, "statusCoverOpen"), "warning");
     auto& tree = dynamic_cast<QTreeView&>(shown(status.scgStatus));
     key(Qt::Key_Home);
     ASSERT_TRUE(tree.isExpanded(tree.model()->index(0, 0)));
@@ -50,7 +50,7 @@ TEST_F(ByKeyboardAlone, ConditionsAreSwitchedOffOnlineAndOffline)
             key(Qt::Key_Down);
         }
         key(Qt::Key_Space);
-        EXPECT_THAT(icon(status, condition), HasSubstr("modified"));
+        EXPECT_THAT(iconOf(status, condition), HasSubstr("modified"));
     };
     const std::string before = inDevice("statusMask1");
     toggle("statusCoverOpen");

@@ -29,11 +29,11 @@ TEST_F(ByMouseAlone, FaultsAreMadeAndTheStatusFollows)
     EXPECT_TRUE(model().has(Fault::coverOpen));
     messenger().device().advance(5);
     clickCommand("readPage");
-    EXPECT_EQ(icon(status, "statusCoverOpen"), "warning");
+    EXPECT_EQ(iconOf(status, "statusCoverOpen"), "warning");
     toggle("faultCoverOpen");
     messenger().device().advance(5);
     clickCommand("readPage");
-    EXPECT_EQ(icon(status, "statusCoverOpen"), "ok");
+    EXPECT_EQ(iconOf(status, "statusCoverOpen"), "ok");
 }
 
 TEST_F(ByMouseAlone, ConditionsAreSwitchedOff)
@@ -46,11 +46,11 @@ TEST_F(ByMouseAlone, ConditionsAreSwitchedOff)
     ASSERT_TRUE(status.IsConfiguring());
     const int row = rowOf(status, "statusCoverOpen");
     clickCell(status.scgStatus, row, 1, 10);
-    EXPECT_EQ(icon(status, "statusCoverOpen"), "checkDisabledmodified");
+    EXPECT_EQ(iconOf(status, "statusCoverOpen"), "checkDisabledmodified");
     clickCell(status.scgStatus, row, 1, 10);
-    EXPECT_EQ(icon(status, "statusCoverOpen"), "checkEnabled");
+    EXPECT_EQ(iconOf(status, "statusCoverOpen"), "checkEnabled");
     clickCell(status.scgStatus, row, 1); // in the middle of the row
-    EXPECT_EQ(icon(status, "statusCoverOpen"), "checkDisabledmodified");
+    EXPECT_EQ(iconOf(status, "statusCoverOpen"), "checkDisabledmodified");
     const std::string before = inDevice("statusMask1");
     mouse(status.cmdDownload);
     EXPECT_FALSE(status.IsConfiguring());

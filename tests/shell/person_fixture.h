@@ -1,6 +1,7 @@
 #pragma once
 
 #include "action_window_fixture.h"
+#include "status_rows.h"
 
 #include "editors/CtrCheckEdit.h"
 #include "editors/CtrOptionEdit.h"
@@ -163,20 +164,6 @@ protected:
     [[nodiscard]] const LoopCurrent& loop()
     {
         return messenger().device().function<CurrentOutput>()->loop();
-    }
-    static int rowOf(const StatusTreeView& view, const std::string& name)
-    {
-        for (int row = 1; row <= view.scgStatusKey.RowCount(); ++row) {
-            if (view.scgStatusKey.cell(row, 1).Text == name) {
-                return row;
-            }
-        }
-        ADD_FAILURE() << "no row of " << name;
-        return 1;
-    }
-    static std::string icon(const StatusTreeView& view, const std::string& name)
-    {
-        return view.scgStatus.CellIcon(rowOf(view, name), 1);
     }
 };
 

@@ -93,10 +93,10 @@ TEST_P(ResetEffects, OfTheStatusIsThatWhatIsOverHasGone)
 {
     diagnosis().setPresent(messenger().device(), "statusMemoryFailure", true);
     readPage("status");
-    ASSERT_EQ(icon(view<StatusTreeView>("status"), "statusMemoryFailure"), "failsafe");
+    ASSERT_EQ(iconOf(view<StatusTreeView>("status"), "statusMemoryFailure"), "failsafe");
     perform(0, 0, false);
     readPage("status");
-    EXPECT_EQ(icon(view<StatusTreeView>("status"), "statusMemoryFailure"), "ok");
+    EXPECT_EQ(iconOf(view<StatusTreeView>("status"), "statusMemoryFailure"), "ok");
     EXPECT_THAT(listedEvents(), Contains(text("vx4400eventStatusReset")));
 }
 
@@ -161,12 +161,12 @@ TEST_P(ResetEffects, OfTheAlarmsAreTheirDefaultsAndTheDiagnosisGoesByThem)
     write("alarms", "alarmHighTravel", "%", "1");
     messenger().device().advance(5);
     readPage("status");
-    ASSERT_EQ(icon(view<StatusTreeView>("status"), "statusTravelHigh"), "info");
+    ASSERT_EQ(iconOf(view<StatusTreeView>("status"), "statusTravelHigh"), "info");
     perform(2, Resets::alarms);
     EXPECT_EQ(std::stod(shownValue("alarms", "alarmHighTravel")), 98);
     messenger().device().advance(5);
     readPage("status");
-    EXPECT_EQ(icon(view<StatusTreeView>("status"), "statusTravelHigh"), "ok");
+    EXPECT_EQ(iconOf(view<StatusTreeView>("status"), "statusTravelHigh"), "ok");
 }
 
 TEST_P(ResetEffects, OfEverythingAreTheSettingsOfTheFactory)
@@ -186,8 +186,8 @@ TEST_P(ResetEffects, OfARestartIsAColdStartWithASeparatorInTheLog)
     diagnosis().setPresent(messenger().device(), "statusMemoryFailure", true);
     perform(2, Resets::restart);
     readPage("status");
-    EXPECT_EQ(icon(view<StatusTreeView>("status"), "statusColdStart"), "info");
-    EXPECT_EQ(icon(view<StatusTreeView>("status"), "statusMemoryFailure"), "ok");
+    EXPECT_EQ(iconOf(view<StatusTreeView>("status"), "statusColdStart"), "info");
+    EXPECT_EQ(iconOf(view<StatusTreeView>("status"), "statusMemoryFailure"), "ok");
     const auto events = listedEvents();
     ASSERT_GE(events.size(), 2U);
     const auto at = std::ranges::find(events, text("vx4400eventExternalReset"));

@@ -35,8 +35,8 @@ protected:
 TEST_F(StatusConfigurationPage, CheckMarksShowTheMasksOfTheDevice)
 {
     beginOnline();
-    EXPECT_EQ(icon(configurable(), kOn), "checkEnabled");
-    EXPECT_EQ(icon(configurable(), kOff), "checkDisabled");
+    EXPECT_EQ(iconOf(configurable(), kOn), "checkEnabled");
+    EXPECT_EQ(iconOf(configurable(), kOff), "checkDisabled");
     EXPECT_EQ(inDocument("statusMask2", "value"), deviceValue("statusMask2"));
     EXPECT_EQ(inDocument("statusMask2", "synchronised"), "1");
 }
@@ -47,15 +47,15 @@ TEST_F(StatusConfigurationPage, MouseAndKeyboardToggleAndTheMasksReachDeviceAndD
     const std::string before2 = deviceValue("statusMask2");
     const std::string before3 = deviceValue("statusMask3");
     clickRow(configurable(), kOn);
-    EXPECT_EQ(icon(configurable(), kOn), "checkDisabledmodified");
+    EXPECT_EQ(iconOf(configurable(), kOn), "checkDisabledmodified");
     auto& rows = tree(configurable());
     rows.setCurrentIndex(userInput::rowNumber(rows, rowOf(configurable(), kOff) - 1));
     rows.setFocus();
     userInput::press(rows, Qt::Key_Down);
     userInput::press(rows, Qt::Key_Space);
-    EXPECT_EQ(icon(configurable(), kOff), "checkEnabledmodified");
+    EXPECT_EQ(iconOf(configurable(), kOff), "checkEnabledmodified");
     userInput::press(rows, Qt::Key_Space);
-    EXPECT_EQ(icon(configurable(), kOff), "checkDisabled") << "a second time takes it back";
+    EXPECT_EQ(iconOf(configurable(), kOff), "checkDisabled") << "a second time takes it back";
     userInput::press(rows, Qt::Key_Space);
     download();
     EXPECT_THAT(responses, Contains(kRequest));
@@ -72,10 +72,10 @@ TEST_F(StatusConfigurationPage, MouseAndKeyboardToggleAndTheMasksReachDeviceAndD
     diagnosis().setPresent(messenger().device(), kOn, true);
     diagnosis().setPresent(messenger().device(), kOff, true);
     readPage();
-    EXPECT_EQ(icon(configurable(), kOn), "deviceDiagnosisPassiv");
-    EXPECT_EQ(icon(configurable(), kOff), "deviceMaintenanceRequired");
-    EXPECT_EQ(icon(view(), kOn), "inactive") << "on the other page too";
-    EXPECT_EQ(icon(view(), kOff), "warning");
+    EXPECT_EQ(iconOf(configurable(), kOn), "deviceDiagnosisPassiv");
+    EXPECT_EQ(iconOf(configurable(), kOff), "deviceMaintenanceRequired");
+    EXPECT_EQ(iconOf(view(), kOn), "inactive") << "on the other page too";
+    EXPECT_EQ(iconOf(view(), kOff), "warning");
 }
 
 TEST_F(StatusConfigurationPage, OfflineTheMasksGoIntoTheDatafile)
@@ -99,7 +99,7 @@ TEST_F(StatusConfigurationPage, OfflineTheMasksGoIntoTheDatafile)
     openWindow();
     ASSERT_TRUE(window->openDatafile(path()));
     beginConfiguration();
-    EXPECT_EQ(icon(configurable(), kCover), "checkDisabled");
+    EXPECT_EQ(iconOf(configurable(), kCover), "checkDisabled");
     EXPECT_EQ(inDocument("statusMask1", "value"), accepted);
 }
 
@@ -113,7 +113,7 @@ TEST_F(StatusConfigurationPage, CancelDropsTheChanges)
     EXPECT_FALSE(responses.contains(kRequest));
     EXPECT_FALSE(messenger().isWaiting());
     beginConfiguration();
-    EXPECT_EQ(icon(configurable(), kOn), "checkEnabled");
+    EXPECT_EQ(iconOf(configurable(), kOn), "checkEnabled");
 }
 
 TEST_F(StatusConfigurationPage, NothingIsReadMeanwhile)
@@ -191,7 +191,7 @@ TEST_F(StatusConfigurationPage, WhoGivesUpAfterAFailureSeesWhatTheDeviceHas)
     EXPECT_EQ(inDocument("statusMask3", "value"), deviceValue("statusMask3"));
     EXPECT_EQ(inDocument("statusMask3", "synchronised"), "1");
     beginConfiguration();
-    EXPECT_EQ(icon(configurable(), kOn), "checkEnabled");
+    EXPECT_EQ(iconOf(configurable(), kOn), "checkEnabled");
 }
 
 TEST_F(StatusConfigurationPage, AnObserverChangesNothingOnTheDevice)
@@ -218,8 +218,8 @@ TEST_F(StatusConfigurationPage, AFieldbusDeviceShowsWhereItsMasksPutAConditon)
     diagnosis().setPresent(messenger().device(), "statusCavitation", true);
     window->showPage("status");
     readPage();
-    EXPECT_EQ(icon(view(), "statusCavitation"), "alarm") << "a warning when it left the factory";
-    EXPECT_EQ(icon(view(), kOff), "inactive");
+    EXPECT_EQ(iconOf(view(), "statusCavitation"), "alarm") << "a warning when it left the factory";
+    EXPECT_EQ(iconOf(view(), kOff), "inactive");
     EXPECT_EQ(inDocument("statusMaskAlarm3", "value"), deviceValue("statusMaskAlarm3"));
 }
 

@@ -5,6 +5,7 @@
 #include "shell/status_sign.h"
 #include "shell/view_page.h"
 #include "status/CtrStatusF.h"
+#include "status_rows.h"
 #include "window_fixture.h"
 
 #include <QTreeView>
@@ -32,20 +33,6 @@ protected:
     }
     CtrStatusF& configurable() { return view<CtrStatusF>("statusConfiguration"); }
 
-    static int rowOf(const StatusTreeView& view, const std::string& name)
-    {
-        for (int row = 1; row <= view.scgStatusKey.RowCount(); ++row) {
-            if (view.scgStatusKey.cell(row, 1).Text == name) {
-                return row;
-            }
-        }
-        ADD_FAILURE() << "no row of " << name;
-        return 1;
-    }
-    static std::string icon(const StatusTreeView& view, const std::string& name)
-    {
-        return view.scgStatus.CellIcon(rowOf(view, name), 1);
-    }
     QTreeView& tree(const StatusTreeView& view)
     {
         return dynamic_cast<QTreeView&>(shown(view.scgStatus));

@@ -107,7 +107,7 @@ TEST_F(StatusWindow, ReadingThePageReadsMasksAndStatus)
     QStringList names = responses;
     names.removeDuplicates();
     EXPECT_EQ(names, QStringList({"read deviceStatusMasks ok", "read deviceStatus ok"}));
-    EXPECT_EQ(icon(view(), "statusSupplyPressureLow"), "ok");
+    EXPECT_EQ(iconOf(view(), "statusSupplyPressureLow"), "ok");
     EXPECT_TRUE(states.contains("deviceStatus sync"));
     EXPECT_TRUE(states.contains("deviceStatusNAMUR sync")) << "the other page takes it too";
 }
@@ -215,7 +215,7 @@ TEST_F(StatusWindow, OfflineTheStatusIsUnknown)
     goOnline();
     EXPECT_FALSE(messenger().isOnline());
     EXPECT_EQ(sign().word(), "Unknown");
-    EXPECT_EQ(icon(view(), "statusSupplyPressureLow"), "unknown");
+    EXPECT_EQ(iconOf(view(), "statusSupplyPressureLow"), "unknown");
 }
 
 TEST_F(StatusWindow, TheStatusOfOneDeviceIsNotThatOfTheNext)
@@ -248,12 +248,12 @@ TEST_F(StatusWindow, AReadingThatFailsIsShownAndToldToNobody)
     messenger().device().failNext("communicationError");
     ASSERT_TRUE(messenger().readGroup("deviceStatus"));
     waitForDevice();
-    EXPECT_EQ(icon(view(), "statusSupplyPressureLow"), "unknown");
+    EXPECT_EQ(iconOf(view(), "statusSupplyPressureLow"), "unknown");
     EXPECT_EQ(sign().word(), "Unknown");
     EXPECT_TRUE(dialogs.boxes.empty());
     ASSERT_TRUE(messenger().readGroup("deviceStatus"));
     waitForDevice();
-    EXPECT_EQ(icon(view(), "statusSupplyPressureLow"), "ok");
+    EXPECT_EQ(iconOf(view(), "statusSupplyPressureLow"), "ok");
     EXPECT_TRUE(states.contains("deviceStatus syncError"));
     EXPECT_TRUE(states.contains("deviceStatus reSync"));
 }
@@ -270,7 +270,7 @@ TEST_F(StatusWindow, TheUserChoosesTheClassification)
     window->command("classNAMUR")->trigger();
     EXPECT_EQ(messenger().GetStatusClassification(), kClassNAMUR);
     readPage();
-    EXPECT_EQ(icon(view(), "statusSupplyPressureLow"), "deviceOffSpecification");
+    EXPECT_EQ(iconOf(view(), "statusSupplyPressureLow"), "deviceOffSpecification");
     EXPECT_EQ(sign().word(), "Out of spec");
     window->command("classSeverity")->trigger();
     readPage();
