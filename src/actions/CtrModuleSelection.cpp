@@ -149,12 +149,10 @@ void CtrModuleSelection::SetOfflineData(const IXMLDOMNode& node)
     findDocumentsFolder(step);
     listModules(step, node);
     const IXMLDOMDocument document = openHostDocument(step);
-    if (!document.get_documentElement()) {
-        return;
+    IXMLDOMNodeList       names;
+    if (document.get_documentElement()) {
+        step([&] { names = document.selectNodes("//param:Module/fdt:VersionInformation"); });
     }
-    const auto names = step.value(IXMLDOMNodeList{}, [&] {
-        return document.selectNodes("//param:Module/fdt:VersionInformation");
-    });
     for (const IXMLDOMNode& name : names) {
         step([&] { ModuleSelection.setText(""); });
         step([&] { ModuleSelection.setText(documents::attributeText(name, "name")); });
@@ -172,7 +170,6 @@ void CtrModuleSelection::listModules(const Steps& step, const IXMLDOMNode& dataf
         }
     });
     ModuleSelection.Clear();
-    ModuleSelection_Click();
     // A file that cannot be read must not leave the modules of another device to choose from.
     mParameterDocument = makeDocument();
     if (!step([&] { mParameterDocument.load(mDocumentsFolder + file); })) {

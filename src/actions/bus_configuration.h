@@ -4,7 +4,8 @@
 #include <string>
 
 /// The hexadecimal configuration of a bus master, which holds the configuration of the module in
-/// its second block. Words have four digits and no sign; lengths count bytes of two digits and
+/// its second block. Words have four digits and are read without
+/// a sign, written up to 32767; lengths count bytes of two digits and
 /// include the two of the length word itself. What is no digit counts as one character all the
 /// same:
 ///

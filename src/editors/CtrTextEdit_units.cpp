@@ -39,7 +39,7 @@ void CtrTextEdit::setVisibleUnit(const std::string& unit)
     const std::int32_t before = textWidth();
     lblUnit.Caption           = unit == kNoUnit ? std::string{} : unit;
     const std::int32_t after  = textWidth();
-    Width                     = Width - before + after;
+    Width                     = values::sum(Width, after - before);
 }
 
 std::optional<float> CtrTextEdit::convert(const Steps& step, double value, const std::string& from,

@@ -10,10 +10,10 @@ namespace quill {
 
 /// Colours that the editors paint with.
 namespace editorColors {
-constexpr platform::Color kRed   = 255;
-constexpr platform::Color kBlue  = 0xff0000;
-constexpr platform::Color kGrey  = 0xe0e0e0;
-constexpr platform::Color kWhite = 0xffffff;
+constexpr platform::Color kRed  = 255;
+constexpr platform::Color kBlue = 0xff0000;
+constexpr platform::Color kGrey = 0xe0e0e0;
+using platform::kWhite;
 } // namespace editorColors
 
 /// What all data editors have in common, however they show that a value is modified: the bond to a

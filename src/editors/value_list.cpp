@@ -35,8 +35,7 @@ std::string keyOf(const Steps& step, const std::string& value, const std::string
 
 std::string translated(const Steps& step, Translator* translator, const std::string& name)
 {
-    const std::string text = step.value(name, [&] { return existing(translator).Translate(name); });
-    return modTools::IsNotErrorText(text) ? text : name;
+    return step.value(name, [&] { return modTools::textOrKey(existing(translator), name); });
 }
 
 } // namespace quill::valueList

@@ -1,6 +1,7 @@
 #include "framework/modTools.h"
 
 #include "framework/documents.h"
+#include "framework/host_contract.h"
 #include "framework/steps.h"
 #include "framework/values.h"
 
@@ -68,6 +69,12 @@ std::string GetHomeRequestGroup(const platform::IXMLDOMNode& datafile,
 bool IsNotErrorText(const std::string& text)
 {
     return !text.starts_with("Err:");
+}
+
+std::string textOrKey(Translator& translator, const std::string& key)
+{
+    const std::string text = translator.Translate(key);
+    return IsNotErrorText(text) ? text : key;
 }
 
 std::string StandardizeDatafileDate(const std::string& text)

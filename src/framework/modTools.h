@@ -4,6 +4,10 @@
 
 #include <string>
 
+namespace quill {
+class Translator;
+}
+
 /// Conversions between document text and screen text. These routines run without a Messenger:
 /// what goes wrong is written to the debug output.
 namespace quill::modTools {
@@ -24,6 +28,9 @@ void MakePath(const std::string& path);
 
 /// True unless the text begins with "Err:".
 [[nodiscard]] bool IsNotErrorText(const std::string& text);
+/// The translation of a key, and the key itself, which tells the user more, where the host says
+/// "Err:". Throws what the Translator throws.
+[[nodiscard]] std::string textOrKey(Translator& translator, const std::string& key);
 
 /// "DD?MM?YYYY HH:MM:SS" reordered to "YYYY-MM-DD HH:MM:SS"; whatever stands at the fixed
 /// positions is taken as it is.

@@ -7,7 +7,6 @@
 namespace quill {
 
 namespace {
-constexpr platform::Color kWhite = 0xffffff;
 } // namespace
 
 PageView::PageView(const char* className, const platform::Design& design)
@@ -54,7 +53,7 @@ platform::WidgetList PageView::subPages() const
 void PageView::paintFrames()
 {
     for (platform::Widget* frame : subPages()) {
-        frame->BackColor = kWhite;
+        frame->BackColor = platform::kWhite;
     }
 }
 

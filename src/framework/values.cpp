@@ -331,6 +331,13 @@ double roundToEven(double number)
     return std::nearbyint(number);
 }
 
+std::int32_t sum(std::int32_t length, std::int32_t more)
+{
+    using Limits = std::numeric_limits<std::int32_t>;
+    return static_cast<std::int32_t>(
+        std::clamp<std::int64_t>(std::int64_t{length} + more, Limits::min(), Limits::max()));
+}
+
 std::int32_t percentOf(std::int32_t length, int percent)
 {
     return static_cast<std::int32_t>(roundToEven(static_cast<double>(length) * percent / 100.0));

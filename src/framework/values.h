@@ -53,6 +53,8 @@ namespace quill::values {
 [[nodiscard]] std::int32_t toInt32(double number);
 /// Narrowed for a unit conversion; a number that is too large for single precision is failure 6.
 [[nodiscard]] float toSingle(double number);
+/// Two lengths together; what is beyond 32 bits ends there.
+[[nodiscard]] std::int32_t sum(std::int32_t length, std::int32_t more);
 /// `percent` (0 to 100) of a length, rounded by `roundToEven`; any length is allowed.
 [[nodiscard]] std::int32_t percentOf(std::int32_t length, int percent);
 

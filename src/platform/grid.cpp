@@ -203,8 +203,10 @@ int Grid::AddRow(int parent)
         moveOn(mCurRow);
         moveOn(mEditRow);
     }
+    // The cells first: a row without them could not be told from one that has them.
+    mCells.insert(mCells.begin() + static_cast<std::ptrdiff_t>(place - 1) * ColCount(),
+                  mColumns.size(), Cell{});
     mRows.insert(mRows.begin() + (place - 1), std::move(fresh));
-    mCells.insert(mCells.begin() + (place - 1) * ColCount(), mColumns.size(), Cell{});
     tell({What::rowsInserted, nullptr, place - 1, place - 1});
     return place;
 }
@@ -218,6 +220,7 @@ void Grid::setRowCount(int count)
     if (count == before) {
         return;
     }
+    mCells.reserve(static_cast<std::size_t>(count) * mColumns.size());
     for (int row = before; row > count; --row) {
         if (const int parent = at(row).parent; parent != 0) {
             at(parent).children -= 1;

@@ -16,6 +16,7 @@ using Color = std::uint32_t;
 constexpr Color kWindowBackground = 0x80000005;
 constexpr Color kWindowText       = 0x80000008;
 constexpr Color kButtonFace       = 0x8000000F;
+constexpr Color kWhite            = 0xFFFFFF; ///< the ground of a page
 constexpr Color kButtonText       = 0x80000012;
 
 /// A property's value on its way to or from somebody who knows the property by name only.

@@ -146,6 +146,16 @@ std::string mapped(std::string_view text, Map&& map)
     return result;
 }
 
+bool isAscii(std::string_view text)
+{
+    constexpr unsigned kHighBit = 0x80;
+    unsigned           bits     = 0;
+    for (const char byte : text) {
+        bits |= static_cast<unsigned char>(byte);
+    }
+    return (bits & kHighBit) == 0;
+}
+
 } // namespace
 
 bool isValid(std::string_view text)
@@ -167,20 +177,6 @@ std::int32_t length(std::string_view text)
     });
     return count;
 }
-
-namespace {
-
-bool isAscii(std::string_view text)
-{
-    constexpr unsigned kHighBit = 0x80;
-    unsigned           bits     = 0;
-    for (const char byte : text) {
-        bits |= static_cast<unsigned char>(byte);
-    }
-    return (bits & kHighBit) == 0;
-}
-
-} // namespace
 
 std::string substring(std::string_view text, std::int32_t start, std::int32_t count)
 {

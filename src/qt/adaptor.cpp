@@ -134,17 +134,18 @@ QString Adaptor::description(const QString&) const
 bool Adaptor::fillsGround() const
 {
     // White is the ground of a page. On a dark screen that is whatever the page lies on.
-    constexpr platform::Color kWhite = 0xFFFFFF;
     return mModel->BackColor != platform::kButtonFace &&
-           !(mModel->BackColor == kWhite && isDark(mScreen->palette()));
+           !(mModel->BackColor == platform::kWhite && isDark(mScreen->palette()));
 }
 
 void Adaptor::showColors(QPalette::ColorRole text, QPalette::ColorRole ground)
 {
-    const QPalette& ours      = mScreen->palette();
-    const bool      ownGround = mModel->BackColor != platform::kWindowBackground &&
-                           mModel->BackColor != platform::kButtonFace &&
-                           (ground != QPalette::Window || fillsGround());
+    const QPalette& ours   = mScreen->palette();
+    const bool      isBare = ground == QPalette::Window; // no box of its own around it
+    const bool      fills  = !isBare || fillsGround();
+    mWidget->setAutoFillBackground(isBare && fills);
+    const bool ownGround = mModel->BackColor != platform::kWindowBackground &&
+                           mModel->BackColor != platform::kButtonFace && fills;
     const bool   ownText     = mModel->ForeColor != platform::kWindowText;
     const QColor shownGround = ownGround ? shownColor(mModel->BackColor, ground, ours)
                                          : ours.color(QPalette::Active, ground);

@@ -100,10 +100,9 @@ protected:
     /// What assistive programs are told besides the name: what the tool tip tells.
     [[nodiscard]] virtual QString description(const QString& name) const;
 
-    /// Whether the ground of a widget that the style does not paint is one of its own.
-    [[nodiscard]] bool fillsGround() const;
     /// Shows the colours of the model in these two roles. Colours that the program left alone stay
-    /// the palette's. A ground other than `Window` is one that the style paints itself.
+    /// the palette's. A ground other than `Window` is one that the style paints itself; a widget
+    /// whose ground is `Window` is filled only where it is one of its own.
     void showColors(QPalette::ColorRole text, QPalette::ColorRole ground);
 
     [[nodiscard]] Screen* screen() const noexcept { return mScreen; }
@@ -112,10 +111,12 @@ protected:
     void focusLeft(Qt::FocusReason reason);
 
 private:
-    void heard(const platform::WidgetChange& change);
-    void reportEscaped(const std::exception& error);
-    bool keyPressed(QKeyEvent& event);
-    void answer(QKeyEvent& event);
+    /// Whether the ground of a widget that the style does not paint is one of its own.
+    [[nodiscard]] bool fillsGround() const;
+    void               heard(const platform::WidgetChange& change);
+    void               reportEscaped(const std::exception& error);
+    bool               keyPressed(QKeyEvent& event);
+    void               answer(QKeyEvent& event);
 
     Screen*                mScreen;
     platform::Widget*      mModel;

@@ -58,7 +58,6 @@ public:
     {
         Adaptor::update();
         this->showColors(textRole(), groundRole());
-        this->shown()->setAutoFillBackground(groundRole() == QPalette::Window);
         showPicture();
         showText();
         showValue();

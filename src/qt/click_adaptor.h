@@ -16,7 +16,6 @@ public:
     void update() override
     {
         Adaptor::update();
-        this->shown()->setAutoFillBackground(this->fillsGround());
         this->shown()->setCursor(this->kind().Click.empty() ? Qt::ArrowCursor
                                                             : Qt::PointingHandCursor);
         this->showColors(QPalette::WindowText, QPalette::Window);

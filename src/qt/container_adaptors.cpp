@@ -37,7 +37,6 @@ public:
     {
         Adaptor::update();
         shown()->setTitle(toQt(kind().Caption));
-        shown()->setAutoFillBackground(fillsGround());
         showColors(QPalette::WindowText, QPalette::Window);
     }
     [[nodiscard]] Fit     fit() const override { return {QSize(0, 0)}; }
@@ -52,7 +51,6 @@ public:
     void update() override
     {
         Adaptor::update();
-        shown()->setAutoFillBackground(fillsGround());
         showColors(QPalette::WindowText, QPalette::Window);
     }
     [[nodiscard]] Fit  fit() const override { return {QSize(0, 0)}; }

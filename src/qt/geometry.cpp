@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace quill::qt {
 
@@ -15,6 +16,13 @@ bool onOneRow(const QRect& a, const QRect& b)
     return a.top() <= b.bottom() && b.top() <= a.bottom();
 }
 
+/// The far edge, in pixels, of what begins at `start`: two edges that meet in twips meet on screen.
+int edge(std::int32_t start, std::int32_t length)
+{
+    return static_cast<int>(
+        std::lround((static_cast<double>(start) + static_cast<double>(length)) / kTwipsPerPixel));
+}
+
 } // namespace
 
 int toPixels(std::int32_t twips) noexcept
@@ -24,15 +32,17 @@ int toPixels(std::int32_t twips) noexcept
 
 std::int32_t toTwips(int pixels) noexcept
 {
-    return pixels * kTwipsPerPixel;
+    using Limits = std::numeric_limits<std::int32_t>;
+    return static_cast<std::int32_t>(std::clamp<std::int64_t>(std::int64_t{pixels} * kTwipsPerPixel,
+                                                              Limits::min(), Limits::max()));
 }
 
 QRect designRect(const platform::Widget& widget)
 {
     const int left = toPixels(widget.Left);
     const int top  = toPixels(widget.Top);
-    return {left, top, std::max(0, toPixels(widget.Left + widget.Width) - left),
-            std::max(0, toPixels(widget.Top + widget.Height) - top)};
+    return {left, top, std::max(0, edge(widget.Left, widget.Width) - left),
+            std::max(0, edge(widget.Top, widget.Height) - top)};
 }
 
 QRect seat(const QRect& design, const Fit& fit)

@@ -2,6 +2,7 @@
 
 #include <QMetaObject>
 
+#include <algorithm>
 #include <utility>
 
 namespace quill::qt {
@@ -220,10 +221,14 @@ void Screen::updateDirty()
     mIsDirty.clear();
     // Where several are disabled, the one with the focus is the last: else the focus would go from
     // one to the next, and each would take it for a visit of the user's.
-    std::stable_partition(dirty.begin(), dirty.end(), [this](const platform::Widget* model) {
-        const Adaptor* const adaptor = find(*model);
-        return adaptor == nullptr || !adaptor->widget()->hasFocus();
-    });
+    const auto focused =
+        std::find_if(dirty.begin(), dirty.end(), [this](const platform::Widget* model) {
+            const Adaptor* const adaptor = find(*model);
+            return adaptor != nullptr && adaptor->widget()->hasFocus();
+        });
+    if (focused != dirty.end()) {
+        std::rotate(focused, focused + 1, dirty.end());
+    }
     for (const platform::Widget* model : dirty) {
         // Showing one widget can move the focus and so run handlers that destroy another.
         if (Adaptor* const adaptor = find(*model)) {

@@ -6,6 +6,8 @@
 #include <QSignalBlocker>
 
 #include <algorithm>
+#include <cstdint>
+#include <limits>
 
 namespace quill::qt {
 
@@ -103,11 +105,13 @@ private:
         }
         const QString text  = shown()->text();
         const int     start = toQtPosition(text, kind().SelStart);
-        const int     end   = toQtPosition(text, kind().SelStart + kind().SelLength);
-        const bool    same  = end > start
-                                  ? shown()->selectionStart() == start &&
+        const auto behind = std::min<std::int64_t>(std::int64_t{kind().SelStart} + kind().SelLength,
+                                                   std::numeric_limits<std::int32_t>::max());
+        const int  end    = toQtPosition(text, static_cast<std::int32_t>(behind));
+        const bool same   = end > start
+                                ? shown()->selectionStart() == start &&
                                     shown()->selectedText().size() == end - start
-                                  : !shown()->hasSelectedText() && shown()->cursorPosition() == start;
+                                : !shown()->hasSelectedText() && shown()->cursorPosition() == start;
         if (same) {
             return;
         }

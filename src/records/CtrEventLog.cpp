@@ -26,13 +26,6 @@ std::string inOperationTimeFormat(const std::string& time)
     return values::isNumeric(local) ? eventLog::operationTimeText(time) : time;
 }
 
-/// A host without a text for a key says so in the answer; the key itself then tells the user more.
-std::string textOrKey(Translator& translator, const std::string& key)
-{
-    const std::string text = translator.Translate(key);
-    return modTools::IsNotErrorText(text) ? text : key;
-}
-
 const char* flagText(bool flag)
 {
     return flag ? "True" : "False";
@@ -71,7 +64,7 @@ void CtrEventLog::log(const Steps& step, std::int16_t category, const std::strin
 
 std::string CtrEventLog::translated(const std::string& key)
 {
-    return textOrKey(existing(host().GetTranslator()), key);
+    return modTools::textOrKey(existing(host().GetTranslator()), key);
 }
 
 std::function<std::string(const std::string&)> CtrEventLog::wording(const Steps& step)
@@ -79,8 +72,9 @@ std::function<std::string(const std::string&)> CtrEventLog::wording(const Steps&
     auto* const translator =
         step.value<Translator*>(nullptr, [&] { return host().GetTranslator(); });
     return [&step, translator](const std::string& key) {
-        return key.empty() ? std::string{}
-                           : step.text([&] { return textOrKey(existing(translator), key); });
+        return key.empty()
+                   ? std::string{}
+                   : step.text([&] { return modTools::textOrKey(existing(translator), key); });
     };
 }
 
@@ -109,10 +103,10 @@ void CtrEventLog::Localize(Translator& translator)
     for (int column = 1; column <= static_cast<int>(lsvEventLog.ColumnHeaders().size()); ++column) {
         step([&] {
             const auto& header = lsvEventLog.ColumnHeaders()[static_cast<std::size_t>(column) - 1];
-            lsvEventLog.setColumnText(column, textOrKey(translator, header.Tag));
+            lsvEventLog.setColumnText(column, modTools::textOrKey(translator, header.Tag));
         });
     }
-    step([&] { cmdNext.Caption = textOrKey(translator, cmdNext.Tag); });
+    step([&] { cmdNext.Caption = modTools::textOrKey(translator, cmdNext.Tag); });
     // The columns stay as wide as the user or a read has made them.
     placeWidgets();
 }

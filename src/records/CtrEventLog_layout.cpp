@@ -101,13 +101,13 @@ void CtrEventLog::ResizeEvents()
         if (lsvEventLog.SelectedItem() <= 1) {
             return;
         }
-        const auto width = [&](int column) {
+        const auto width = [&](int column) -> std::int64_t {
             return lsvEventLog.ColumnHeaders().at(static_cast<std::size_t>(column) - 1).Width;
         };
-        const std::int32_t others = width(kClassColumn) + width(kTimeColumn) + width(kDateColumn);
-        const std::int32_t left   = lsvEventLog.Width - others - kScrollBar;
+        const std::int64_t others = width(kClassColumn) + width(kTimeColumn) + width(kDateColumn);
+        const std::int64_t left   = lsvEventLog.Width - others - kScrollBar;
         if (others + width(kEventColumn) > lsvEventLog.Width - kSlack && left >= kLeast) {
-            lsvEventLog.setColumnWidth(kEventColumn, left);
+            lsvEventLog.setColumnWidth(kEventColumn, static_cast<std::int32_t>(left));
         }
     });
 }

@@ -169,7 +169,7 @@ void CtrEventLog::AddStamps(const std::string& operationTime, const std::string&
         int       breaks     = 0;
         int       obsolete   = 0;
         for (int row = 1; row <= lsvEventLog.Count(); ++row) {
-            announceRow(lsvEventLog.ListItems(), static_cast<std::size_t>(row));
+            announceRow(lsvEventLog.ListItems(), static_cast<std::size_t>(row) - 1);
             tell("i = " + std::to_string(row));
             tell("strTime from uitem = " +
                  eventLog::column(lsvEventLog.Item(row), eventLog::kTime));

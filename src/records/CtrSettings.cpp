@@ -51,13 +51,6 @@ void lineUp(ButtonRow row, std::int32_t right, std::int32_t top)
     }
 }
 
-/// A row must say which one it is, in whatever words there are.
-std::string textOf(Translator& translator, const std::string& key)
-{
-    const std::string text = translator.Translate(key);
-    return modTools::IsNotErrorText(text) ? text : key;
-}
-
 platform::Design withSize(platform::Design design)
 {
     if (design.Width == 0 && design.Height == 0) {
@@ -245,15 +238,17 @@ void CtrSettings::localizeWidget(const Steps& step, platform::Widget& widget,
 void CtrSettings::localizeUnits(const Steps& step, Translator& translator)
 {
     for (int row = 1; row <= scgUnits.RowCount(); ++row) {
-        step([&] { scgUnits.setCellText(row, kQuantity, textOf(translator, keyOf(row))); });
+        step([&] {
+            scgUnits.setCellText(row, kQuantity, modTools::textOrKey(translator, keyOf(row)));
+        });
     }
 }
 
 void CtrSettings::fillClassifications(const Steps& step, Translator& translator)
 {
-    // The host's number is the row: a text that is missing leaves its row empty.
+    // The host's number is the row: a text that cannot be had leaves its row empty.
     const auto add = [&](const char* key, StatusClassification classification) {
-        const std::string text = step.text([&] { return textOf(translator, key); });
+        const std::string text = step.text([&] { return modTools::textOrKey(translator, key); });
         cboStatusClassification.AddItem(text, classification);
     };
     cboStatusClassification.Clear();
@@ -298,7 +293,9 @@ void CtrSettings::SetUnitConverter()
     }
     for (int row = 1; row <= scgUnits.RowCount(); ++row) {
         const std::string key = step.text([&] { return quantities.nextNode().get_text(); });
-        step([&] { scgUnits.setCellText(row, kQuantity, textOf(existing(translator), key)); });
+        step([&] {
+            scgUnits.setCellText(row, kQuantity, modTools::textOrKey(existing(translator), key));
+        });
         scgUnits.setCellEditable(row, kQuantity, false);
         scgUnitsKey.setCellText(row, kQuantity, key);
         showUnit(row, step.text([&] { return units->GetDisplayUnit(key).value_or(""); }));

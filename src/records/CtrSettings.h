@@ -141,14 +141,15 @@ public:
     /// Whether choices wait for OK or Apply.
     [[nodiscard]] bool               isModified() const noexcept { return mblnModified; }
     [[nodiscard]] const std::string& language() const noexcept { return mstrLanguage; }
-    /// The row of the unit that was opened for a choice last, 0 for none.
+    /// Those that the user can choose.
     [[nodiscard]] const std::vector<std::string>& languages() const noexcept
     {
         return mastrLanguages;
     }
     /// The quantities are in the grid.
     [[nodiscard]] bool areUnitsLoaded() const noexcept { return mblnUnitsLoaded; }
-    [[nodiscard]] int  unitRow() const noexcept { return miUnitRow; }
+    /// The row of the unit that was opened for a choice last, 0 for none.
+    [[nodiscard]] int unitRow() const noexcept { return miUnitRow; }
 
 private:
     void UserControl_Initialize();

@@ -8,7 +8,6 @@ namespace quill {
 
 namespace {
 
-constexpr const char* kCheck         = "check"; ///< in the key of every check mark
 constexpr const char* kCheckEnabled  = "checkEnabled";
 constexpr const char* kCheckDisabled = "checkDisabled";
 constexpr const char* kModified      = "modified";
@@ -43,7 +42,7 @@ std::string CtrStatusF::checkMarkOf(const std::string& key)
 bool CtrStatusF::isIconInUse(int index)
 {
     return IsConfiguring() &&
-           silentSteps().value(false, [&] { return values::contains(iconAt(index), kCheck); });
+           silentSteps().value(false, [&] { return isCheckMark(iconAt(index)); });
 }
 
 void CtrStatusF::setCheckMark(int index, const std::string& key)

@@ -121,13 +121,15 @@ void CtrStatus::rebuildOnOffMask(const Steps& step, MaskPart place)
         return GetMaskByte(entryAt(mastrMasks, place.part + maskClass * place.count - 1), position)
             .value_or(0);
     };
-    // Written at once: byte by byte, a long mask would be copied for each of its bytes.
+    // Written at once: byte by byte, a long mask would be copied for each of its bytes. A table
+    // that one byte lacks is lacked by all, each with its report.
+    const int   bytes = statusMasks::bytesInPart(miMaskLength);
     std::string fresh;
-    for (int position = 0; position < statusMasks::bytesInPart(miMaskLength); ++position) {
+    for (int position = 0; position < bytes; ++position) {
         step([&] {
             const auto byte = static_cast<std::uint8_t>(
                 byteOf(kInfo, position) | byteOf(kWarning, position) | byteOf(kAlarm, position));
-            (void)entryAt(mastrMasks, place.part - 1);
+            (void)entryAt(mastrMasks, place.part - 1); // where it goes
             fresh += statusMasks::digitsOf(byte);
         });
     }

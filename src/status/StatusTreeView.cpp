@@ -89,9 +89,7 @@ void StatusTreeView::translateRows(const Steps& step, Translator& translator)
 {
     for (int row = 1; row <= scgStatus.RowCount(); ++row) {
         step([&] {
-            const std::string& key  = keyAt(row - 1);
-            const std::string  text = translator.Translate(key);
-            scgStatus.setCellText(row, 1, modTools::IsNotErrorText(text) ? text : key);
+            scgStatus.setCellText(row, 1, modTools::textOrKey(translator, keyAt(row - 1)));
         });
     }
     mDescriptions.translate(translator, imlStatusIcons.Keys());

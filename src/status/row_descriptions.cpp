@@ -17,6 +17,11 @@ constexpr const char* kSeparator = ", ";
 
 } // namespace
 
+bool isCheckMark(const std::string& image)
+{
+    return image.starts_with("check");
+}
+
 void RowDescriptions::translate(Translator& translator, const std::vector<std::string>& imageKeys)
 {
     const Steps unheard = silentSteps();
@@ -52,7 +57,7 @@ void RowDescriptions::show(int row, const std::string& image, ConditionState sta
 void RowDescriptions::showImage(int row, const std::string& image)
 {
     if (const Shown* shown = at(row)) {
-        const bool speaks = !image.empty() && !image.starts_with("check");
+        const bool speaks = !image.empty() && !isCheckMark(image);
         put(row, image, shown->state, speaks && shown->state != ConditionState::none);
     }
 }

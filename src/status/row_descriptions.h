@@ -22,6 +22,9 @@ enum class ConditionState : std::uint8_t {
     unknown,
 };
 
+/// Whether the image of a row is a check mark, which says nothing about its condition.
+[[nodiscard]] bool isCheckMark(const std::string& image);
+
 /// Tells in words what the icons of a status tree say, for a person who does not see them: the
 /// row's text, the meaning of its icon, the state of its condition ("Supply low, Alarm, active").
 ///

@@ -25,8 +25,8 @@ struct Position {
 };
 
 /// The attributes `maskByte` and `maskBit` of a condition's definition, each in a step of its own;
-/// `kNone` for one that is missing or no number. Failure 6 for a number beyond 16 bits, 91 for what
-/// has no attributes.
+/// `kNone` for one that is missing, is no number, or fails: 6 beyond 16 bits, 91 without
+/// attributes.
 [[nodiscard]] Position readPosition(const Steps& step, const platform::IXMLDOMNode& status);
 /// The part that a mask parameter holds: the digit at the end of its name, nothing if there is
 /// none.

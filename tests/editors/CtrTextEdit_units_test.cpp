@@ -129,6 +129,15 @@ TEST_F(TextEditDataTest, ABurstParameterGivesUpAtItsFirstTail)
     EXPECT_EQ(burst.Unit(), "psi"); // the end of the routine, not the datafile's unit
 }
 
+TEST_F(TextEditDataTest, AnEditorOfAnyWidthTakesALongerUnit)
+{
+    load();
+    editor.Width = 2147483647;
+    editor.setVisibleUnit("a unit that is longer");
+    EXPECT_EQ(editor.Width.get(), 2147483647);
+    EXPECT_THAT(messenger.errors(), IsEmpty());
+}
+
 TEST_F(TextEditDataTest, NoUnitAndPercentDoNotFollowTheUnits)
 {
     useConverter("kPa");

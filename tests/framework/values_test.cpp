@@ -338,6 +338,14 @@ TEST(Values, APercentageOfALengthIsRoundedAndHoldsForAnyLength)
     EXPECT_EQ(values::percentOf(2147483647, 100), 2147483647);
 }
 
+TEST(Values, LengthsTogetherEndWhereThirtyTwoBitsEnd)
+{
+    EXPECT_EQ(values::sum(3, -5), -2);
+    EXPECT_EQ(values::sum(2147483647, 1), 2147483647);
+    EXPECT_EQ(values::sum(std::numeric_limits<std::int32_t>::min(), -1),
+              std::numeric_limits<std::int32_t>::min());
+}
+
 TEST(Values, AnIntegerOutsideItsRangeOverflows)
 {
     EXPECT_EQ(values::toInt16(2.5), 2);

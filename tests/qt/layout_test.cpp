@@ -22,6 +22,15 @@ TEST(Geometry, FifteenTwipsAreOnePixelAndEdgesMeet)
     EXPECT_EQ(designRect(left).right() + 1, designRect(right).left());
 }
 
+TEST(Geometry, AWidgetOfAnySizeHasItsPlace)
+{
+    constexpr std::int32_t kMost = 2147483647;
+    const platform::Label  wide({.Left = 100, .Top = 100, .Width = kMost, .Height = kMost});
+    EXPECT_EQ(designRect(wide), QRect(QPoint(7, 7), QPoint(kMost / 15 + 6, kMost / 15 + 6)));
+    EXPECT_EQ(toTwips(10), 150);
+    EXPECT_EQ(toTwips(kMost), kMost);
+}
+
 TEST(Geometry, ARowThatIsTooLowGrowsEvenlyUpAndDown)
 {
     const Fit   fit{QSize(50, 27), 315, false, true};

@@ -126,6 +126,18 @@ TEST(TextBoxOnScreen, TheSelectionMadeOnGettingTheFocusOutlastsTheClick)
     EXPECT_EQ(page.txtSecond.SelLength.get(), 0);
 }
 
+TEST(TextBoxOnScreen, ASelectionMayReachBehindTheEnd)
+{
+    TextPage    page;
+    const Shown screen(page);
+    auto* const edit = screen.as<QLineEdit>(page.txtSecond);
+    edit->setFocus();
+    page.txtSecond.SelStart  = 1;
+    page.txtSecond.SelLength = 2147483647;
+    settle();
+    EXPECT_EQ(edit->selectedText(), "wo");
+}
+
 TEST(TextBoxOnScreen, AKeyThatAHandlerTakesGoesNoFurther)
 {
     TextPage         page;

@@ -251,6 +251,18 @@ TEST_F(EventLogFormTest, ControlASelectsEveryRowAndKeepsTheCurrentOne)
     EXPECT_EQ(view.lsvEventLog.SelectedItem(), 2);
 }
 
+TEST_F(EventLogFormTest, ColumnsThatSomebodyHasMadeVeryWideAreLeftAlone)
+{
+    for (const int column : {1, 2, 3, 4}) {
+        view.lsvEventLog.setColumnWidth(column, 2147483647);
+    }
+    readHart();
+    view.lsvEventLog.select({2});
+    receive({{3, "e3", "c3", "1"}});
+    EXPECT_EQ(view.lsvEventLog.ColumnHeaders()[1].Width, 2147483647);
+    EXPECT_THAT(host.errors(), IsEmpty());
+}
+
 TEST_F(EventLogFormTest, ControlCCopiesTheSelectedRows)
 {
     view.UseHART();

@@ -294,4 +294,38 @@ TEST_F(WindowLook, TheButtonThatEnterMeansIsMarkedInTheDialogs)
     }
 }
 
+TEST_F(WindowLook, WhatHasTheFocusHasARingAroundIt)
+{
+    constexpr int kCorner = 4;
+    int           boxes   = 0;
+    int           buttons = 0;
+    for (const char* page :
+         {"configuration", "reset", "hartAddress", "eventLog", "statusConfiguration"}) {
+        window->showPage(page);
+        userInput::settle();
+        for (QWidget* widget : window->view().findChildren<QWidget*>()) {
+            const bool isBox    = qobject_cast<QComboBox*>(widget) != nullptr;
+            const bool isButton = qobject_cast<QPushButton*>(widget) != nullptr;
+            if (!(isBox || isButton) || !widget->isVisible() || !widget->isEnabled()) {
+                continue;
+            }
+            widget->clearFocus();
+            userInput::settle();
+            const QImage without = widget->grab().toImage();
+            widget->setFocus(Qt::TabFocusReason);
+            userInput::settle();
+            const QImage with    = widget->grab().toImage();
+            int          changed = 0;
+            for (int x = kCorner; x < with.width() - kCorner; ++x) {
+                changed += with.pixel(x, 1) != without.pixel(x, 1) ? 1 : 0;
+            }
+            EXPECT_GE(changed, with.width() - 3 * kCorner)
+                << page << " " << widget->objectName().toStdString();
+            (isBox ? boxes : buttons) += 1;
+        }
+    }
+    EXPECT_GT(boxes, 0);
+    EXPECT_GT(buttons, 0);
+}
+
 } // namespace quill::shell::test
