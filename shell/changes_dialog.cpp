@@ -1,6 +1,6 @@
 #include "shell/changes_dialog.h"
 
-#include "platform/toolkit.h"
+#include "framework/caption_width.h"
 #include "qt/geometry.h"
 
 #include <QVBoxLayout>
@@ -69,11 +69,10 @@ void ChangesDialog::arrange()
     std::int32_t left = width - kMargin;
     for (platform::CommandButton* button :
          {&mControl.cmdClose, &mControl.cmdClear, &mControl.cmdDownload}) {
-        button->Width = std::max(
-            kLeastButton, platform::Toolkit::current().textWidth(button->Caption) + kPadding);
-        button->Left = left - button->Width;
-        button->Top  = height - kMargin - button->Height;
-        left         = button->Left - kGap;
+        button->Width = std::max(kLeastButton, captionWidth(button->Caption) + kPadding);
+        button->Left  = left - button->Width;
+        button->Top   = height - kMargin - button->Height;
+        left          = button->Left - kGap;
     }
     const std::int32_t bottom = height - kMargin - kButton - 2 * kGap;
     mControl.chkChanges.Left  = kMargin;
@@ -97,9 +96,7 @@ void ChangesDialog::fitColumns()
     constexpr std::int32_t kScroll   = 360; // the frame and a scroll bar
 
     auto&      list   = mControl.lstChanges;
-    const auto needed = [](const std::string& text) {
-        return platform::Toolkit::current().textWidth(text) + kPadding;
-    };
+    const auto needed = [](const std::string& text) { return captionWidth(text) + kPadding; };
     std::array<std::int32_t, 3> widths{};
     for (std::size_t column = 0; column < widths.size(); ++column) {
         widths.at(column) = needed(list.ColumnHeaders().at(column).Text);

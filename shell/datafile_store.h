@@ -130,4 +130,16 @@ private:
     std::set<std::string>            mReported; ///< whose editors have told what they made of it
 };
 
+/// What is written while it lives is the program's doing and no edit (see `beginLoading`).
+class Loading {
+public:
+    explicit Loading(DatafileStore& store) : mStore(store) { mStore.beginLoading(); }
+    ~Loading() { mStore.endLoading(); }
+    Loading(const Loading&)            = delete;
+    Loading& operator=(const Loading&) = delete;
+
+private:
+    DatafileStore& mStore;
+};
+
 } // namespace quill::shell

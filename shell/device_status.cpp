@@ -39,7 +39,7 @@ bool isMaskName(const std::string& parameter)
 }
 
 /// -1 for an attribute that is missing or no number.
-int numberIn(const IXMLDOMNode& element, const char* attribute)
+int maskIndex(const IXMLDOMNode& element, const char* attribute)
 {
     int               number = -1;
     const std::string text   = optionalAttribute(element, attribute);
@@ -133,8 +133,8 @@ DeviceStatus::DeviceStatus(const IXMLDOMNode& typeInfo)
             condition.name       = attributeText(status, "name");
             condition.branch     = attributeText(branch, "name");
             condition.severity   = optionalAttribute(status, "class");
-            condition.maskByte   = numberIn(status, "maskByte");
-            condition.maskBit    = numberIn(status, "maskBit");
+            condition.maskByte   = maskIndex(status, "maskByte");
+            condition.maskBit    = maskIndex(status, "maskBit");
             condition.isMeasured = findRule(condition.name) != nullptr;
             mConditions.push_back(std::move(condition));
         }

@@ -6,8 +6,9 @@
 #include "editors/CtrOptionEdit.h"
 #include "editors/CtrTextEdit.h"
 #include "editors/CtrTimeEdit.h"
+#include "editors/typed_editor.h"
+#include "framework/caption_width.h"
 #include "framework/documents.h"
-#include "platform/toolkit.h"
 #include "shell/forwarding_messenger.h"
 #include "shell/row_metrics.h"
 
@@ -32,26 +33,21 @@ constexpr std::int32_t kCheckWidth   = 720;  ///< of sign and mark of a row of c
 constexpr std::int32_t kDuration     = 4500; ///< boxes for days, hours, minutes and seconds
 constexpr std::int32_t kButtonMargin = 420;
 
-std::int32_t textWidth(const std::string& text)
-{
-    return platform::Toolkit::current().textWidth(text);
-}
-
 /// Width of the box that shows every entry of a list.
 std::int32_t listWidth(const EditorCore& editor)
 {
     std::int32_t width = kBoxWidth;
     if (const auto* combo = dynamic_cast<const CtrComboEdit*>(&editor)) {
         for (const auto& entry : combo->cboBox.List()) {
-            width = std::max(width, textWidth(entry) + kArrowWidth);
+            width = std::max(width, captionWidth(entry) + kArrowWidth);
         }
     } else if (const auto* options = dynamic_cast<const CtrOptionEdit*>(&editor)) {
         for (std::size_t place = 0; place < options->OptionCount(); ++place) {
-            width = std::max(width, textWidth(options->Option(place).Caption) + kMarkWidth);
+            width = std::max(width, captionWidth(options->Option(place).Caption) + kMarkWidth);
         }
     } else if (const auto* checks = dynamic_cast<const CtrCheckEdit*>(&editor)) {
         for (int row = 1; row <= checks->scgCheck.RowCount(); ++row) {
-            width = std::max(width, textWidth(checks->scgCheck.cell(row, 2).Text) + kCheckWidth);
+            width = std::max(width, captionWidth(checks->scgCheck.cell(row, 2).Text) + kCheckWidth);
         }
     } else if (dynamic_cast<const CtrTimeEdit*>(&editor) != nullptr) {
         width = kDuration;
@@ -64,7 +60,7 @@ std::int32_t boxWidth(const EditorCore& editor, std::int32_t usual)
 {
     if (const auto* text = dynamic_cast<const CtrTextEdit*>(&editor)) {
         const bool isLong =
-            text->txtBox.MaxLength > kLongText || textWidth(text->Text()) > kBoxWidth - kGap;
+            text->txtBox.MaxLength > kLongText || captionWidth(text->Text()) > kBoxWidth - kGap;
         return isLong ? std::max(kWideBox, usual) : usual;
     }
     return usual;
@@ -81,7 +77,7 @@ std::int32_t firstLine(const EditorCore& editor)
 std::int32_t unitWidth(const EditorCore& editor)
 {
     const auto* text = dynamic_cast<const CtrTextEdit*>(&editor);
-    return text != nullptr ? textWidth(text->Unit()) : 0;
+    return text != nullptr ? captionWidth(text->Unit()) : 0;
 }
 
 std::unique_ptr<EditorCore> makeEditor(platform::Frame& frame, const PageRow& row)
@@ -287,7 +283,7 @@ std::int32_t EditorPage::labelWidth() const
     std::int32_t width = 0;
     for (const auto& section : mSections) {
         for (const auto& row : section->rows) {
-            width = std::max(width, textWidth(row->label.Caption));
+            width = std::max(width, captionWidth(row->label.Caption));
         }
     }
     return width;
@@ -320,10 +316,10 @@ std::int32_t EditorPage::fill(Section& section, std::int32_t labelWidth)
     }
     section.frame.Height = top + kGap;
     if (section.cmdRead) {
-        const std::int32_t date   = textWidth("00.00.0000 00:00:00 PM");
-        const std::int32_t read   = textWidth(section.lblRead->Caption);
-        const std::int32_t button = textWidth(section.cmdRead->Caption) + kButtonMargin;
-        const std::int32_t title  = textWidth(section.frame.Caption) * 5 / 4;
+        const std::int32_t date   = captionWidth("00.00.0000 00:00:00 PM");
+        const std::int32_t read   = captionWidth(section.lblRead->Caption);
+        const std::int32_t button = captionWidth(section.cmdRead->Caption) + kButtonMargin;
+        const std::int32_t title  = captionWidth(section.frame.Caption) * 5 / 4;
         needed = std::max(needed, kMargin + title + 4 * kGap + read + date + button);
     }
     return needed + kMargin;
@@ -356,16 +352,16 @@ void EditorPage::layOut(const PageSpace& space)
         *shortest += section->frame.Height + kMargin;
         if (section->cmdRead) {
             auto& button  = *section->cmdRead;
-            button.Width  = textWidth(button.Caption) + kButtonMargin;
+            button.Width  = captionWidth(button.Caption) + kButtonMargin;
             button.Height = kRowHeight;
             button.Left   = needed - kMargin - button.Width;
             button.Top    = kTextTop;
             auto& date    = *section->date;
-            date.Width    = textWidth(date.Caption()) + kGap / 2;
+            date.Width    = captionWidth(date.Caption()) + kGap / 2;
             date.Left     = button.Left - kGap - date.Width;
             date.Top      = kTitleText;
             auto& read    = *section->lblRead;
-            read.Width    = textWidth(read.Caption) + kGap / 2;
+            read.Width    = captionWidth(read.Caption) + kGap / 2;
             read.Height   = kTextHeight;
             read.Left     = date.Left - kGap / 2 - read.Width;
             read.Top      = kTitleText;
@@ -432,17 +428,15 @@ void EditorPage::takeUnits(const std::function<bool(const std::string& parameter
     const Steps step{GetMessenger(), "EditorPage takeUnits: "};
     for (const auto& section : mSections) {
         for (const auto& row : section->rows) {
-            EditorCore& editor  = *row->editor;
-            const bool  hasUnit = dynamic_cast<CtrTextEdit*>(&editor) != nullptr ||
-                                 dynamic_cast<CtrTimeEdit*>(&editor) != nullptr;
+            auto* const editor = dynamic_cast<TypedEditor*>(row->editor.get());
             step([&] {
-                if (hasUnit && editor.IsInitialized() && wanted(row->parameter)) {
-                    editor.setOfflineData(editor.dataNode());
+                if (editor != nullptr && editor->IsInitialized() &&
+                    editor->messageUnit() != documents::kNoUnit && wanted(row->parameter)) {
+                    editor->setOfflineData(editor->dataNode());
                 }
             });
         }
     }
-    layOut(mLaidOutFor);
 }
 
 void EditorPage::SetOnlineData(const IXMLDOMNode& node)

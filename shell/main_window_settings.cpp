@@ -1,4 +1,4 @@
-#include "framework/documents.h"
+#include "platform/failure.h"
 #include "shell/main_window.h"
 
 #include <QAction>
@@ -120,17 +120,10 @@ void MainWindow::takeUnits()
     if (!mBook) {
         return;
     }
-    auto&      store = mMessenger.store();
-    const auto units = [&](const std::string& parameter) {
-        const auto node = documents::findParameter(store.document(), parameter);
-        const auto unit = node ? platform::attributeNode(node, "unit") : IXMLDOMNode{};
-        return unit && !unit.get_text().empty() && unit.get_text() != documents::kNoUnit;
-    };
-    store.beginLoading();
-    mBook->takeUnits([&](const std::string& parameter) {
-        return !store.isEdited(parameter) && units(parameter);
-    });
-    store.endLoading();
+    auto& store = mMessenger.store();
+    // A loading of its own: what is an edit shows in what the end of the one before has kept.
+    const Loading loading{store};
+    mBook->takeUnits([&](const std::string& parameter) { return !store.isEdited(parameter); });
 }
 
 void MainWindow::showUnitSystem()

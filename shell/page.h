@@ -46,9 +46,9 @@ public:
     /// Whether the page tells the user of an error that concerns no page.
     [[nodiscard]] virtual bool tellsAnyError() const { return true; }
 
-    /// Lets the editors of these parameters take their values anew from the datafile, where they
-    /// may stand in another unit. A change of units converts what is on the screen, and with it the
-    /// decimals that are lost there.
+    /// Lets the editors of these parameters, as far as those have a unit, take their values anew
+    /// from the datafile. A change of units converts what is on the screen, and with it the
+    /// decimals that are lost there. The page must be laid out again.
     virtual void takeUnits(const std::function<bool(const std::string& parameter)>&) {}
 
     /// Takes its place and the size that comes of it: at least what its contents need.

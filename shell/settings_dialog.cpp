@@ -1,7 +1,7 @@
 #include "shell/settings_dialog.h"
 
+#include "framework/caption_width.h"
 #include "platform/failure.h"
-#include "platform/toolkit.h"
 #include "qt/geometry.h"
 #include "shell/languages.h"
 
@@ -119,9 +119,7 @@ void SettingsDialog::arrange()
     CtrSettings& settings = mPage->settings;
     for (platform::CommandButton* button : {&settings.cmdSI, &settings.cmdUS, &settings.cmdOK,
                                             &settings.cmdCancel, &settings.cmdApply}) {
-        button->Width =
-            std::max(button->Width.get(),
-                     platform::Toolkit::current().textWidth(button->Caption) + kPadding);
+        button->Width = std::max(button->Width.get(), captionWidth(button->Caption) + kPadding);
     }
     settings.resize(width, height);
 }

@@ -17,18 +17,6 @@ constexpr const char* kAddress = "pollingAddress";
 
 constexpr std::int16_t kDeviceLevel = 1; ///< of a combined status
 
-/// What happens while it lives is the program's doing and no edit.
-class Loading {
-public:
-    explicit Loading(DatafileStore& store) : mStore(store) { mStore.beginLoading(); }
-    ~Loading() { mStore.endLoading(); }
-    Loading(const Loading&)            = delete;
-    Loading& operator=(const Loading&) = delete;
-
-private:
-    DatafileStore& mStore;
-};
-
 } // namespace
 
 ShellMessenger::ShellMessenger(QObject* parent)

@@ -176,8 +176,8 @@ signals:
 private:
     /// Whether a request of this access may go out now; the user is told why not.
     bool maySend(const std::string& access);
-    /// `request` is the document of the text.
-    bool sendToDevice(const std::string& requestXml, const IXMLDOMDocument& request);
+    /// `request` is the element in the document of the text.
+    bool sendToDevice(const std::string& requestXml, const IXMLDOMNode& request);
     void connectDevice();
     void takeResponse(const QString& xml);
     void takeResponseBeside(const QString& xml);

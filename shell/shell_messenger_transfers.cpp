@@ -3,6 +3,7 @@
 #include "framework/documents.h"
 #include "platform/toolkit.h"
 #include "records/event_log_times.h"
+#include "shell/device_messages.h"
 #include "shell/shell_messenger.h"
 
 #include <QTimer>
@@ -31,9 +32,10 @@ IXMLDOMDocument emptyRequest(const std::string& name, const std::string& access)
     return document;
 }
 
-std::string accessOf(const IXMLDOMDocument& request)
+/// The request in its document.
+IXMLDOMNode requestIn(const IXMLDOMDocument& document)
 {
-    return request.selectSingleNode("//*[local-name()='communicationRequest']/@access").get_text();
+    return document.selectSingleNode("//*[local-name()='communicationRequest']");
 }
 
 } // namespace
@@ -53,27 +55,27 @@ bool ShellMessenger::maySend(const std::string& access)
     return true;
 }
 
-bool ShellMessenger::sendToDevice(const std::string& requestXml, const IXMLDOMDocument& request)
+bool ShellMessenger::sendToDevice(const std::string& requestXml, const IXMLDOMNode& request)
 {
-    if (!maySend(accessOf(request))) {
+    if (!maySend(documents::attributeText(request, "access"))) {
         return false;
     }
-    mKept.push_back(!request.selectSingleNode("//*[local-name()='communicationRequest' and "
-                                              "@datasetSave='0']"));
+    mKept.push_back(optionalAttribute(request, "datasetSave") != "0");
     mLink.send(requestXml);
     return true;
 }
 
 void ShellMessenger::SendCommunicationRequest(const std::string& requestXml, const std::string&)
 {
-    const IXMLDOMDocument request = documents::openText(requestXml);
-    if (mOnline || accessOf(request) != "writeOffline") {
-        mStore.keepSent(request);
+    const IXMLDOMDocument document = documents::openText(requestXml);
+    const IXMLDOMNode     request  = requestIn(document);
+    if (mOnline || documents::attributeText(request, "access") != "writeOffline") {
+        mStore.keepSent(document);
         sendToDevice(requestXml, request);
         return;
     }
-    mStore.accept(request);
-    tellMasks(request);
+    mStore.accept(document);
+    tellMasks(document);
     mAccepted = true;
     tellAccepted();
 }
@@ -81,7 +83,7 @@ void ShellMessenger::SendCommunicationRequest(const std::string& requestXml, con
 bool ShellMessenger::ExecuteCommunicationRequest(const std::string& requestXml, const std::string&,
                                                  std::int16_t, std::int16_t)
 {
-    return sendToDevice(requestXml, documents::openText(requestXml));
+    return sendToDevice(requestXml, requestIn(documents::openText(requestXml)));
 }
 
 bool ShellMessenger::ExecuteNamedRequest(const std::string& requestName, const std::string&,
@@ -94,7 +96,7 @@ bool ShellMessenger::readGroup(const std::string& group)
 {
     if (std::ranges::find(kStatusRequests, std::string_view{group}) == kStatusRequests.end()) {
         const IXMLDOMDocument request = emptyRequest(group, "read");
-        return sendToDevice(request.get_xml(), request);
+        return sendToDevice(request.get_xml(), requestIn(request));
     }
     if (!maySend("read")) {
         return false;
@@ -119,7 +121,7 @@ bool ShellMessenger::readAll()
 bool ShellMessenger::clearConfigurationChanged()
 {
     const IXMLDOMDocument request = emptyRequest(kClearRequest, "act");
-    return sendToDevice(request.get_xml(), request);
+    return sendToDevice(request.get_xml(), requestIn(request));
 }
 
 void ShellMessenger::readBeside(const std::string& group)

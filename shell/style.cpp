@@ -37,24 +37,28 @@ void drawRowFocus(const QStyleOption& option, QPainter& painter)
     painter.restore();
 }
 
-bool hasFocus(const QStyleOption& option)
-{
-    constexpr auto kBoth = QStyle::State_HasFocus | QStyle::State_Enabled;
-    return (option.state & kBoth) == kBoth;
-}
-
 /// Around what has the focus, wide enough to be seen at a glance.
-void drawFocusRing(const QStyleOption& option, const QRect& rect, QPainter& painter)
+void drawFocusRing(const QStyleOption& option, QPainter& painter)
 {
     constexpr qreal kWidth  = 2;
+    constexpr qreal kHalf   = kWidth / 2;
     constexpr qreal kRadius = 2.5;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(option.palette.color(QPalette::Active, QPalette::Highlight), kWidth));
     painter.setBrush(Qt::NoBrush);
-    painter.drawRoundedRect(QRectF(rect).adjusted(kWidth / 2, kWidth / 2, -kWidth / 2, -kWidth / 2),
-                            kRadius, kRadius);
+    painter.drawRoundedRect(QRectF(option.rect).adjusted(kHalf, kHalf, -kHalf, -kHalf), kRadius,
+                            kRadius);
     painter.restore();
+}
+
+/// The ring, if it has the focus and is not disabled.
+void drawFocus(const QStyleOption& option, QPainter& painter)
+{
+    constexpr auto kBoth = QStyle::State_HasFocus | QStyle::State_Enabled;
+    if ((option.state & kBoth) == kBoth) {
+        drawFocusRing(option, painter);
+    }
 }
 
 /// A frame that is all of a view is the ground that the view's widgets stand on, and not a card:
@@ -132,16 +136,12 @@ void ShellStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
         QStyleOptionSpinBox full(*spin);
         full.rect.adjust(0, -1, 0, 1);
         QProxyStyle::drawComplexControl(control, &full, painter, widget);
-        if (hasFocus(*option)) {
-            drawFocusRing(*option, option->rect, *painter);
-        }
+        drawFocus(*option, *painter);
         return;
     }
     if (control == CC_ComboBox || control == CC_Slider) {
         QProxyStyle::drawComplexControl(control, option, painter, widget);
-        if (hasFocus(*option)) {
-            drawFocusRing(*option, option->rect, *painter);
-        }
+        drawFocus(*option, *painter);
         return;
     }
     const auto* group = qstyleoption_cast<const QStyleOptionGroupBox*>(option);
@@ -194,14 +194,13 @@ void ShellStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
         return;
     }
     if (element == PE_FrameFocusRect) {
-        drawFocusRing(*option, option->rect, *painter);
+        drawFocusRing(*option, *painter);
         return;
     }
     if (element != PE_IndicatorCheckBox && element != PE_IndicatorItemViewItemCheck) {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
-        if ((element == PE_FrameLineEdit || element == PE_PanelButtonCommand) &&
-            hasFocus(*option)) {
-            drawFocusRing(*option, option->rect, *painter);
+        if (element == PE_FrameLineEdit || element == PE_PanelButtonCommand) {
+            drawFocus(*option, *painter);
         }
         return;
     }

@@ -4,7 +4,6 @@
 #include "shell/device_messages.h"
 
 #include <algorithm>
-#include <charconv>
 
 namespace quill::shell {
 
@@ -29,9 +28,8 @@ void TestCurrentWatch::sent(const std::string& requestXml)
         mPending.push_back(Effect::none);
         return;
     }
-    double value = 0;
-    std::from_chars(item->value.data(), item->value.data() + item->value.size(), value);
-    mPending.push_back(value == 0 ? Effect::off : Effect::on);
+    // What is no number may make a current flow.
+    mPending.push_back(numberIn(item->value) == 0.0 ? Effect::off : Effect::on);
 }
 
 void TestCurrentWatch::answered(const IXMLDOMNode& response)

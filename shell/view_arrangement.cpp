@@ -4,7 +4,7 @@
 #include "actions/CtrMACalibration.h"
 #include "actions/CtrModuleSelection.h"
 #include "actions/CtrReset.h"
-#include "platform/toolkit.h"
+#include "framework/caption_width.h"
 #include "records/CtrEventLog.h"
 #include "shell/row_metrics.h"
 #include "status/CtrStatus.h"
@@ -15,11 +15,6 @@
 namespace quill::shell {
 
 namespace {
-
-std::int32_t textWidth(const std::string& text)
-{
-    return platform::Toolkit::current().textWidth(text);
-}
 
 /// The row that begins at `top`: the label on its line, the box in its middle.
 void placeRow(std::int32_t top, platform::Label& label, platform::Widget& box)
@@ -37,7 +32,7 @@ void placeButton(std::int32_t top, platform::CommandButton& button)
 
 } // namespace
 
-void fitStatusTree(platform::Control& view)
+void fitStatusTree(platform::Control& view, const ViewKind::Blank&)
 {
     auto& tree  = dynamic_cast<StatusTreeView&>(view).scgStatus;
     tree.Left   = 0;
@@ -46,18 +41,18 @@ void fitStatusTree(platform::Control& view)
     tree.Height = view.Height.get();
 }
 
-void fitStatusConfiguration(platform::Control& view)
+void fitStatusConfiguration(platform::Control& view, const ViewKind::Blank& blank)
 {
     auto&              status = dynamic_cast<CtrStatusF&>(view);
     const std::int32_t gap =
         view.Width - status.cmdConfiguration.Left - status.cmdConfiguration.Width;
-    fitStatusTree(view);
+    fitStatusTree(view, blank);
     status.scgStatus.Width  = view.Width - gap;
     status.scgStatus.Height = std::max<std::int32_t>(
         0, std::min(status.cmdConfiguration.Top.get(), status.cmdDownload.Top.get()) - gap);
 }
 
-void fitEventLog(platform::Control& view)
+void fitEventLog(platform::Control& view, const ViewKind::Blank&)
 {
     // A log has a bar at its side nearly always, and what is cut of the last column would need a
     // second one below.
@@ -70,7 +65,7 @@ void fitEventLog(platform::Control& view)
         const auto& header = list.ColumnHeaders()[column];
         // A column without a width is hidden.
         if (column != kEvent && header.Width > 0) {
-            const std::int32_t width = std::max(header.Width, textWidth(header.Text) + kPadding);
+            const std::int32_t width = std::max(header.Width, captionWidth(header.Text) + kPadding);
             list.setColumnWidth(static_cast<int>(column) + 1, width);
             others += width;
         }
@@ -78,9 +73,8 @@ void fitEventLog(platform::Control& view)
     list.setColumnWidth(kEvent + 1, std::max<std::int32_t>(list.Width - others - kBar, kBar));
 }
 
-void fitResets(platform::Control& view)
+void fitResets(platform::Control& view, const ViewKind::Blank& blank)
 {
-    constexpr std::int32_t kTop    = 750;
     constexpr std::int32_t kBeside = 780; // arrow, edges and signs
     constexpr std::int32_t kLeast  = 3900;
     constexpr std::int32_t kGap    = 200;
@@ -88,10 +82,10 @@ void fitResets(platform::Control& view)
     std::int32_t           width   = kLeast;
     for (const CtrComboEdit& combo : reset.cceReset) {
         for (const std::string& entry : combo.cboBox.List()) {
-            width = std::max(width, textWidth(entry) + kBeside);
+            width = std::max(width, captionWidth(entry) + kBeside);
         }
     }
-    std::int32_t top = kTop;
+    std::int32_t top = blank.top;
     for (std::size_t row = 0; row < reset.cceReset.size(); ++row) {
         reset.cceReset[row].Width = width;
         // A row that the device has nothing for leaves no gap.
@@ -100,35 +94,32 @@ void fitResets(platform::Control& view)
             top += kRowPitch;
         }
     }
-    placeButton(kTop, reset.cmdReset);
+    placeButton(blank.top, reset.cmdReset);
     reset.cmdReset.Left = reset.cceReset[0].Left + width + kGap;
 }
 
-void fitHartAddress(platform::Control& view)
+void fitHartAddress(platform::Control& view, const ViewKind::Blank& blank)
 {
-    constexpr std::int32_t kTop    = 750;
-    auto&                  address = dynamic_cast<CtrHartAddress&>(view);
-    placeRow(kTop, address.lblAssemblyRelated[1], address.cceMultidrop);
-    placeRow(kTop + kRowPitch, address.lblAssemblyRelated[0], address.cceAddress);
-    placeButton(kTop, address.cmdSet);
+    auto& address = dynamic_cast<CtrHartAddress&>(view);
+    placeRow(blank.top, address.lblAssemblyRelated[1], address.cceMultidrop);
+    placeRow(blank.top + kRowPitch, address.lblAssemblyRelated[0], address.cceAddress);
+    placeButton(blank.top, address.cmdSet);
 }
 
-void fitCalibration(platform::Control& view)
+void fitCalibration(platform::Control& view, const ViewKind::Blank& blank)
 {
-    constexpr std::int32_t kTop = 870; // of the first row
     for (CtrDateLabel& date : dynamic_cast<CtrMACalibration&>(view).ctrDateLabels) {
-        date.Width = textWidth(date.Caption());
+        date.Width = captionWidth(date.Caption());
         date.Left  = view.Width - date.Width;
-        date.Top   = kTop - kTitleHeight + kTitleText;
+        date.Top   = blank.top - kTitleHeight + kTitleText;
     }
 }
 
-void fitModuleSelection(platform::Control& view)
+void fitModuleSelection(platform::Control& view, const ViewKind::Blank& blank)
 {
-    constexpr std::int32_t kTop    = 705;
-    auto&                  modules = dynamic_cast<CtrModuleSelection&>(view);
-    modules.ModuleSelection.Top    = kTop + (kRowHeight - modules.ModuleSelection.Height) / 2;
-    placeButton(kTop, modules.cmdSetSelection);
+    auto& modules               = dynamic_cast<CtrModuleSelection&>(view);
+    modules.ModuleSelection.Top = blank.top + (kRowHeight - modules.ModuleSelection.Height) / 2;
+    placeButton(blank.top, modules.cmdSetSelection);
 }
 
 } // namespace quill::shell

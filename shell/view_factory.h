@@ -45,8 +45,8 @@ struct ViewKind {
     platform::CommandButton* (*sendButton)(platform::Control& view) = nullptr;
     /// Lets it ask for what it shows, where no response brings that, unless it holds an edit.
     void (*refresh)(platform::Control& view) = nullptr;
-    /// What is left to arrange once it has its size.
-    void (*arrange)(platform::Control& view) = nullptr;
+    /// What is left to arrange once it has its size; the first row begins where `blank` ends.
+    void (*arrange)(platform::Control& view, const Blank& blank) = nullptr;
 };
 
 /// The views that a page description can name; nothing for any other name.

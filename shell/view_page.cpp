@@ -95,7 +95,9 @@ ViewPage::~ViewPage() = default;
 void ViewPage::makeView()
 {
     mView = mKind.make(mCard, {.Name = description().view, .Tag = description().viewTag});
-    // The card is the ground that the view stands on.
+    // The card is the ground that the view stands on. On a dark palette white frames are not filled
+    // anyway; on a light one they would lie on the card's edge and title, which the blank of a
+    // design reaches over.
     mView->BackColor = platform::kButtonFace;
     for (platform::Widget* widget : mView->Widgets()) {
         if (dynamic_cast<platform::Frame*>(widget) != nullptr) {
@@ -142,13 +144,14 @@ void ViewPage::layOut(const PageSpace& space)
     mView->resize(mCard.Width - besideView, mCard.Height - aboveView);
     if (mKind.arrange != nullptr) {
         const Steps step{GetMessenger(), "ViewPage layOut: "};
-        step([&] { mKind.arrange(*mView); });
+        step([&] { mKind.arrange(*mView, blank); });
     }
 }
 
 std::unique_ptr<Messenger> ViewPage::messengerFor(Messenger& messenger)
 {
-    const bool isPlain = description().speaks && !mKind.actsByItself && mKind.hearsModes;
+    const bool isPlain =
+        description().speaks && !mKind.actsByItself && mKind.hearsModes && !mKind.drivesCurrent;
     return isPlain ? nullptr
                    : std::make_unique<ViewMessenger>(messenger, mKind, description().speaks,
                                                      mTestCurrent);
